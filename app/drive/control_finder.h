@@ -1,0 +1,24 @@
+// Finds windows and controls by their own names, without regard to case: `frmMain`, `picDocument`,
+// `frmAbout.cmdOK`.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QWidget>
+
+namespace tabrova {
+
+// What a name stands for; an error text where it stands for nothing.
+struct FoundControl {
+    QObject* object = nullptr;
+    QString error;
+};
+
+// All loaded windows that have a name, hidden ones included.
+QList<QWidget*> loadedForms();
+QWidget* findForm(const QString& name);
+
+// `name` is a form, a control of the main window or `form.control`.
+FoundControl findControl(const QString& name);
+
+} // namespace tabrova

@@ -1,0 +1,96 @@
+#include "app/drive/input_events.h"
+
+#include <QApplication>
+#include <QKeySequence>
+#include <QMouseEvent>
+#include <QTest>
+
+namespace tabrova {
+
+namespace {
+
+Qt::Key keyOf(QChar character) {
+    return character.unicode() < 0x80 ? QTest::asciiToKey(character.toLatin1())
+                                      : static_cast<Qt::Key>(character.toUpper().unicode());
+}
+
+// Which keys are held between two events.
+Qt::MouseButtons heldButtons = Qt::NoButton;
+
+void sendMouse(QWidget* widget, QEvent::Type type, Qt::MouseButton button, const QPoint& at) {
+    QMouseEvent event(type, at, widget->mapToGlobal(at), button, heldButtons, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+void press(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
+    heldButtons |= button;
+    QTest::mousePress(widget, button, Qt::NoModifier, at);
+}
+
+void release(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
+    heldButtons &= ~button;
+    QTest::mouseRelease(widget, button, Qt::NoModifier, at);
+}
+
+} // namespace
+
+bool pressKey(QWidget* widget, const QString& keyName) {
+    const QKeySequence keys = QKeySequence::fromString(keyName, QKeySequence::PortableText);
+    if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown) return false;
+    QTest::keyClick(widget, keys[0].key(), keys[0].keyboardModifiers());
+    return true;
+}
+
+void typeText(QWidget* widget, const QString& text) {
+    widget->setFocus();
+    for (const QChar character : text)
+        QTest::sendKeyEvent(QTest::Click, widget, keyOf(character), QString(character), Qt::NoModifier);
+}
+
+std::optional<MouseCommand> mouseCommand(const QStringList& words) {
+    MouseCommand command;
+    QStringList rest = words;
+    if (rest.size() >= 2) {
+        bool x = false, y = false;
+        const QPoint at(rest[0].toInt(&x), rest[1].toInt(&y));
+        if (x && y) {
+            command.position = at;
+            rest = rest.mid(2);
+        }
+    }
+    if (rest.isEmpty()) return command;
+    const QString button = rest.takeFirst().toLower();
+    if (!rest.isEmpty()) return std::nullopt;
+    if (button == "right") {
+        command.button = Qt::RightButton;
+    } else if (button == "middle") {
+        command.button = Qt::MiddleButton;
+    } else if (button != "left") {
+        return std::nullopt;
+    }
+    return command;
+}
+
+void actWithMouse(QWidget* widget, MouseAct act, const MouseCommand& command) {
+    const QPoint at = command.position.value_or(widget->rect().center());
+    switch (act) {
+    case MouseAct::Click:
+        press(widget, command.button, at);
+        release(widget, command.button, at);
+        break;
+    case MouseAct::Down:
+        press(widget, command.button, at);
+        break;
+    case MouseAct::Up:
+        release(widget, command.button, at);
+        break;
+    case MouseAct::Move:
+        sendMouse(widget, QEvent::MouseMove, Qt::NoButton, at);
+        break;
+    case MouseAct::DoubleClick:
+        if (widget->isEnabled()) sendMouse(widget, QEvent::MouseButtonDblClick, command.button, at);
+        break;
+    }
+}
+
+} // namespace tabrova

@@ -1,0 +1,25 @@
+// The five services that the driver records instead of reaching for the desktop.
+#pragma once
+
+#include "platform/services.h"
+
+#include <memory>
+
+namespace tabrova {
+
+struct RecordingServices {
+    RecordingMessageBoxes boxes;
+    RecordingFileChooser files;
+    RecordingAddressOpener addresses;
+    RecordingTextPrinter printer;
+    RecordingMidiDevice midi;
+    TimerList timers;
+    std::unique_ptr<SettingsStore> settings;
+
+    Services services(const std::filesystem::path& folder, std::function<void()> endProgram) {
+        return Services{
+            boxes, files, addresses, *settings, printer, midi, timers, folder, std::move(endProgram)};
+    }
+};
+
+} // namespace tabrova

@@ -1,0 +1,11 @@
+// Splits a command line into words as a shell does: blanks part, double quotes hold blanks, a backslash
+// inside them takes the next character as it stands.
+#pragma once
+
+#include <QStringList>
+
+namespace tabrova {
+
+QStringList splitWords(const QString& line);
+
+} // namespace tabrova

@@ -1,0 +1,11 @@
+// A mock page put together from a sheet as the program does it, to judge the drawings by eye.
+#pragma once
+
+#include <QImage>
+
+namespace sheet {
+
+// The sheet must have the given scale; the result has it too.
+QImage previewPage(const QImage& sheetImage, int scale);
+
+} // namespace sheet

@@ -1,0 +1,178 @@
+// The technique marks, in the order of the sheet from left to right.
+#include "tab_marks.h"
+
+#include "glyphs.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace sheet {
+
+namespace {
+
+constexpr int markWidth = 26;
+constexpr int stringRowOfMark = 7;
+
+QRect markAt(int left) { return {left, 107, markWidth, 12}; }
+
+using DrawMark = void (*)(QPainter&);
+
+void drawOpaqueMark(SheetCanvas& canvas, int left, DrawMark draw) {
+    canvas.paint(markAt(left), [draw](QPainter& painter) {
+        drawStringLine(painter, stringRowOfMark, 0, markWidth);
+        draw(painter);
+    });
+}
+
+// A slur: two curves between the same ends, the outer one rising to the given control height.
+void drawSlur(QPainter& painter, double foot, double outer, double inner) {
+    QPainterPath path;
+    path.moveTo(0.5, foot);
+    path.cubicTo(6, outer, 20, outer, 25.5, foot);
+    path.cubicTo(20, inner, 6, inner, 0.5, foot);
+    painter.fillPath(path, ink);
+}
+
+void drawHammerArc(QPainter& painter) { drawSlur(painter, 6.5, -0.9, 1.3); }
+
+void drawSlide(QPainter& painter) {
+    QPainterPath path;
+    path.moveTo(1.5, 11);
+    path.lineTo(24.5, 4);
+    strokePath(painter, path, 1.2);
+}
+
+// A wave of whole periods: a band between two shifted sines, heavier on the slopes than on the
+// crests, as a broad pen would leave it.
+void drawWave(QPainter& painter, double middle, double height, int periods, double weight) {
+    constexpr int steps = 240;
+    const auto waveAt = [&](int step) {
+        const double along = static_cast<double>(step) / steps;
+        return QPointF(1 + 24 * along, middle - height * std::sin(2 * std::numbers::pi * periods * along));
+    };
+    QPainterPath path(waveAt(0) + QPointF(0, -weight / 2));
+    for (int step = 1; step <= steps; ++step) path.lineTo(waveAt(step) + QPointF(0, -weight / 2));
+    for (int step = steps; step >= 0; --step) path.lineTo(waveAt(step) + QPointF(0, weight / 2));
+    path.closeSubpath();
+    painter.fillPath(path, ink);
+}
+
+void drawVibrato(QPainter& painter) { drawWave(painter, 3.5, 1.5, 4, 1.9); }
+
+void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.4, 2.3, 2, 1.7); }
+
+void drawDive(QPainter& painter) {
+    QPainterPath path;
+    path.moveTo(2, 3);
+    path.lineTo(13, 10.3);
+    path.lineTo(24, 3);
+    strokePath(painter, path, 1.3);
+}
+
+void drawRingedGhost(QPainter& painter) {
+    QPen pen(ink, 1.2);
+    painter.setPen(pen);
+    painter.drawEllipse(QRectF(8, 1, 10, 10));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawEllipse(QRectF(11.2, 4.2, 3.6, 3.6));
+}
+
+void drawHairpin(QPainter& painter) {
+    QPainterPath path;
+    path.moveTo(24.5, 3.5);
+    path.lineTo(1.5, 7.5);
+    path.lineTo(24.5, 11.5);
+    strokePath(painter, path, 1.1);
+}
+
+void drawTapArc(QPainter& painter) {
+    drawSlur(painter, 6.6, 2.2, 3.9);
+    QPainterPath caret;
+    caret.moveTo(10.5, 2.5);
+    caret.lineTo(13, 0.6);
+    caret.lineTo(15.5, 2.5);
+    strokePath(painter, caret, 1);
+}
+
+void drawRingArrow(QPainter& painter) {
+    painter.fillRect(QRectF(3, 3, 16, 1), ink);
+    QPainterPath head;
+    head.moveTo(18, 0.5);
+    head.lineTo(25, 3.5);
+    head.lineTo(18, 6.5);
+    head.closeSubpath();
+    painter.fillPath(head, ink);
+}
+
+void drawBracket(SheetCanvas& canvas, int left, bool opening) {
+    canvas.paint(QRect(left, 19, 3, 10), [&](QPainter& painter) {
+        if (!opening) {
+            painter.translate(3, 0);
+            painter.scale(-1, 1);
+        }
+        if (canvas.scale() == 1) {
+            drawPixels(painter, {0, 0},
+                       {"..#", ".#.", ".#.", "#..", "#..", "#..", "#..", ".#.", ".#.", "..#"});
+            return;
+        }
+        QPainterPath path;
+        path.moveTo(2.9, 0.1);
+        path.cubicTo(-0.85, 2.6, -0.85, 7.4, 2.9, 9.9);
+        path.cubicTo(0.75, 7.2, 0.75, 2.8, 2.9, 0.1);
+        painter.fillPath(path, ink);
+    });
+}
+
+void drawStaccatoDot(SheetCanvas& canvas) {
+    canvas.paint(QRect(30, 85, 4, 4), [&](QPainter& painter) {
+        if (canvas.scale() == 1) {
+            drawPixels(painter, {0, 0}, {".##.", "####", "####", ".##."});
+            return;
+        }
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawEllipse(QRectF(0, 0, 4, 4));
+    });
+}
+
+void drawLetters(SheetCanvas& canvas) {
+    const int scale = canvas.scale();
+    canvas.paint(markAt(197), [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'H', {4, 0});
+        drawLetter(painter, scale, 'a', {10, 0});
+    });
+    canvas.paint(markAt(281), [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'S', {4, 0});
+        drawLetter(painter, scale, '.', {10, 0});
+    });
+    canvas.paint(markAt(309), [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'P', {4, 0});
+        drawLetter(painter, scale, '.', {10, 0});
+    });
+    canvas.paint(QRect(448, 126, 10, 12),
+                 [scale](QPainter& painter) { drawDigit(painter, scale, '2', DigitWidth::Narrow, {3, 0}); });
+}
+
+} // namespace
+
+void drawOpaqueMarks(SheetCanvas& canvas) {
+    drawOpaqueMark(canvas, 29, drawHammerArc);
+    drawOpaqueMark(canvas, 57, drawSlide);
+    drawOpaqueMark(canvas, 85, drawVibrato);
+    drawOpaqueMark(canvas, 113, drawWhammyWave);
+    drawOpaqueMark(canvas, 141, drawDive);
+}
+
+void drawLaidOverMarks(SheetCanvas& canvas) {
+    drawStaccatoDot(canvas);
+    drawBracket(canvas, 212, true);
+    drawBracket(canvas, 220, false);
+    canvas.paint(markAt(169), drawRingedGhost);
+    canvas.paint(markAt(225), drawHairpin);
+    canvas.paint(markAt(253), drawTapArc);
+    canvas.paint(markAt(337), drawRingArrow);
+    drawLetters(canvas);
+}
+
+} // namespace sheet

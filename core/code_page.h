@@ -1,0 +1,23 @@
+// The system's single-byte code page: Windows-1252, its five unassigned bytes (0x81, 0x8D, 0x8F, 0x90, 0x9D)
+// mapped to the code points of the same number, so that every byte of a file survives open and save.
+// The document keeps its texts as bytes of this page; windows convert at their edge.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tabrova {
+
+char32_t codePointOf(unsigned char byte);
+
+// std::nullopt for a character that the code page does not hold.
+std::optional<unsigned char> byteOf(char32_t codePoint);
+
+// UTF-8 of the bytes.
+std::string utf8FromCodePage(std::string_view bytes);
+
+// A character that the page does not hold, or a malformed sequence, gives std::nullopt.
+std::optional<std::string> codePageFromUtf8(std::string_view utf8);
+
+} // namespace tabrova

@@ -1,0 +1,16 @@
+// The words and questions that the main window's messages take from the active language.
+#pragma once
+
+#include <string>
+
+namespace tabrova {
+
+struct LanguageWords {
+    std::string track = "Track";
+    std::string of = "of";
+    std::string staff = "Staff";
+    std::string selectedTrack = "selected";
+    std::string saveQuestion = "Do you want to save the changes to";
+};
+
+} // namespace tabrova

@@ -1,0 +1,29 @@
+// Texts of the document at the edge of the windows: bytes of the code page inside, the toolkit's strings
+// outside.
+#pragma once
+
+#include <QString>
+#include <QValidator>
+
+#include <string>
+
+class QLineEdit;
+
+namespace tabrova {
+
+QString fromCodePage(const std::string& bytes);
+// A character that the page does not hold becomes "?"; text boxes refuse such characters before it comes to
+// that.
+std::string toCodePage(const QString& text);
+
+// Lets only characters of the code page into a text box.
+class CodePageValidator : public QValidator {
+  public:
+    using QValidator::QValidator;
+    State validate(QString& text, int& position) const override;
+};
+
+// The box takes only what a file can hold; at a refused character a hint shows beside it.
+void restrictToCodePage(QLineEdit& box);
+
+} // namespace tabrova

@@ -1,0 +1,97 @@
+#include "core/shell/document_commands.h"
+
+#include "core/document_file.h"
+#include "core/shell/code_page_text.h"
+#include "editing/editor.h"
+
+#include <QFileInfo>
+
+#include <fstream>
+
+namespace tabrova {
+
+namespace {
+
+const QString QuestionTitle = QStringLiteral("Tabrova for Windows");
+
+QString literal(std::string_view text) {
+    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+std::filesystem::path pathOf(const QString& name) { return std::filesystem::path(name.toStdU16String()); }
+
+} // namespace
+
+DocumentCommands::DocumentCommands(Document& document, Editor& editor, Services& services,
+                                   const LanguageWords& words, DocumentCommandHost host)
+    : document_(document), editor_(editor), services_(services), words_(words), host_(std::move(host)) {}
+
+bool DocumentCommands::confirmLeaving() {
+    const QString question = fromCodePage(words_.saveQuestion + " " + document_.Title + "?");
+    const BoxAnswer answer = services_.boxes.ask(
+        {QuestionTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}});
+    if (answer == BoxAnswer::Yes) mnuFileSave();
+    return answer != BoxAnswer::Cancel;
+}
+
+bool DocumentCommands::askForName(FileQuestion::Kind kind) {
+    const auto answer = services_.files.choose(
+        {kind, literal(DocumentFilter), literal(DocumentExtension), CommonDialog1.fileName});
+    if (answer) CommonDialog1.fileName = *answer;
+    return answer.has_value();
+}
+
+void DocumentCommands::mnuFileNew() {
+    if (!confirmLeaving()) return;
+    editor_.MakeNewDocument();
+    host_.showFileProperties();
+}
+
+void DocumentCommands::mnuFileSave() {
+    if (!host_.isEnabled("mnuFileSave")) return;
+    if (!document_.HasFileName && !askForName(FileQuestion::Kind::Save)) return;
+    saveDocument(document_, pathOf(CommonDialog1.fileName));
+}
+
+void DocumentCommands::mnuSaveAs() {
+    document_.HasFileName = False16;
+    mnuFileSave();
+}
+
+void DocumentCommands::mnuFileOpen() {
+    if (!confirmLeaving()) return;
+    OpenDocNoConfirm(true);
+}
+
+void DocumentCommands::OpenDocNoConfirm(bool showDialog) {
+    if (showDialog && !askForName(FileQuestion::Kind::Open)) return;
+    readNamedDocument();
+}
+
+// A failure on the way ends it without a word, with what was read so far and no redraw.
+void DocumentCommands::readNamedDocument() {
+    const std::filesystem::path path = pathOf(CommonDialog1.fileName);
+    std::error_code failed;
+    std::ifstream file(path, std::ios::binary);
+    if (!file || std::filesystem::is_directory(path, failed)) return;
+    editor_.MakeNewDocument();
+    if (!readDocument(document_, file)) return;
+    editor_.refreshdrawing();
+    host_.setTrackPanel(document_.TrackNames.front() + " " + words_.selectedTrack);
+    editor_.SetDebugLabel();
+}
+
+void DocumentCommands::OpenCommandLineDocument(const QString& path) {
+    const bool quoted = path.startsWith('"');
+    if (quoted && path.size() < 2) {
+        services_.boxes.ask({"Bad Format", "Tabrova cannot open this file. The format is not recognised.",
+                             BoxIcon::Critical});
+        editor_.MakeNewDocument();
+        return;
+    }
+    const QFileInfo file(quoted ? path.mid(1, path.size() - 2) : path);
+    CommonDialog1.fileName = file.exists() ? file.absoluteFilePath() : QString();
+    OpenDocNoConfirm(false);
+}
+
+} // namespace tabrova

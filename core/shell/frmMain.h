@@ -1,0 +1,121 @@
+// `frmMain`, the one main window: it owns the document, hosts the editor's panels and runs the shell's
+// commands. It composes and shows; what is decided is decided in the rooms below.
+#pragma once
+
+#include "core/document.h"
+#include "core/language_words.h"
+#include "core/shell/bend_panel.h"
+#include "core/shell/document_commands.h"
+#include "core/shell/frmAltSplash.h"
+#include "core/shell/main_menu.h"
+#include "core/shell/note_selector.h"
+#include "core/shell/page_widget.h"
+#include "core/shell/repeat_panel.h"
+#include "core/shell/status_bar.h"
+#include "core/shell/toolbar.h"
+#include "core/shell/window_layout.h"
+#include "editing/editor.h"
+#include "platform/services.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+
+namespace tabrova {
+
+class frmMain : public QMainWindow, private EditorHost {
+  public:
+    explicit frmMain(Services& services);
+    ~frmMain() override;
+
+    enum class Splash { AsSettingsSay, Never };
+    // The start of the program, in its fixed order. An empty command line shows the welcome window.
+    void Form_Load(const QString& commandLine, Splash splash);
+
+    // Enables or disables all that must stand still during playback.
+    void ToggleMenus(bool enabled);
+    // Size of the client area: all below the menu bar.
+    void resizeClient(int width, int height);
+
+    Document& document() { return document_; }
+    Editor& editor() { return editor_; }
+    TabView& view() { return view_; }
+    MainMenu& menu() { return *menu_; }
+    const WindowLayout& layoutOfPanels() const { return layout_; }
+    DocumentCommands& commands() { return commands_; }
+    QWidget* clientArea() const { return client_; }
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void refreshPage() override;
+    void refreshStrip() override;
+    void refreshFretboard() override;
+    void mirrorScrollBar(int maximum, int value) override;
+    void setTitle(const std::string& title) override;
+    void setStatistics(const std::string& text) override;
+    void setTrackPanel(const std::string& text) override;
+    void UpdateTechniqueButtons(bool guitarTrack) override;
+    Rect pageGeometry() const override;
+    Rect panelGeometry(Panel panel) const override;
+    void openPanel(Panel panel, const Rect& place) override;
+    Rect noteSelectorGeometry() const override;
+    void openNoteSelector(const Rect& place) override;
+    void focusPage() override;
+    void restartSoundStopper(int milliseconds) override;
+    void unloadFileProperties() override;
+    bool debugMode() const override;
+    bool playing() const override;
+
+    void buildPanels();
+    void connectPanels();
+    void connectMenus();
+    void connectNoteMenu();
+    void chooseMode(bool powerChord);
+    void connectPage();
+    void openMidiDevice();
+    void mnuViewNotation();
+    void Form_Resize();
+    void placePanels();
+    void closePanel(QWidget& panel);
+    void closeBendPanel(int code);
+    void closeRepeatPanel(int value);
+    void showAbout();
+    void showSplash();
+    void runSplashChoice(SplashChoice choice);
+    void paintRuler();
+    void updateScale();
+    void ReportMidiError(int code);
+    void openSettingAddress(const QString& key, const QString& otherwise);
+
+    Services& services_;
+    Document document_;
+    TabView view_;
+    LanguageWords words_;
+    MidiOutput sound_;
+    Editor editor_;
+    DocumentCommands commands_;
+    std::unique_ptr<MainMenu> menu_;
+    WindowLayout layout_;
+    bool loaded_ = false;
+    bool splashWanted_ = false;
+
+    QWidget* client_ = nullptr;
+    Toolbar* toolbar_ = nullptr;
+    PageWidget* page_ = nullptr;
+    SurfaceWidget* strip_ = nullptr;
+    SurfaceWidget* fretboard_ = nullptr;
+    QScrollBar* VScroll1_ = nullptr;
+    NoteSelector* noteSelector_ = nullptr;
+    BendPanel* bendPanel_ = nullptr;
+    RepeatPanel* repeatPanel_ = nullptr;
+    StatusBar* statusBar_ = nullptr;
+    QFrame* trackChooser_ = nullptr;
+    QLabel* lbldebug_ = nullptr;
+    WindowTimer* tmrsndStopper_ = nullptr;
+    QPointer<frmAltSplash> splash_;
+};
+
+} // namespace tabrova

@@ -1,0 +1,259 @@
+// The main window's panels and menus: how they are made, placed and connected, and what the editor asks of
+// them.
+#include "core/document_operations.h"
+#include "core/shell/code_page_text.h"
+#include "core/shell/frmMain.h"
+#include "editing/key_codes.h"
+
+#include <QPainter>
+#include <QWindow>
+
+namespace tabrova {
+
+namespace {
+
+QRect qRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
+
+MouseButton buttonOf(int qtButton) {
+    switch (qtButton) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::Middle;
+    }
+}
+
+} // namespace
+
+void frmMain::buildPanels() {
+    client_ = new QWidget(this);
+    client_->setObjectName("clientArea");
+    setCentralWidget(client_);
+    toolbar_ = new Toolbar(client_);
+    strip_ = new SurfaceWidget("picStandardNotation", view_.picStandardNotation, client_);
+    page_ = new PageWidget(view_.picDocument, editor_.page(), client_);
+    VScroll1_ = new QScrollBar(Qt::Vertical, client_);
+    VScroll1_->setObjectName("VScroll1");
+    VScroll1_->setRange(1, 1);
+    VScroll1_->setFocusPolicy(Qt::NoFocus);
+    fretboard_ = new SurfaceWidget("picFretboard", view_.picFretboard, client_);
+    statusBar_ = new StatusBar(client_);
+    lbldebug_ = new QLabel(client_);
+    lbldebug_->setObjectName("lbldebug");
+    lbldebug_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    noteSelector_ = new NoteSelector(page_);
+    bendPanel_ = new BendPanel(client_);
+    repeatPanel_ = new RepeatPanel(client_);
+    trackChooser_ = new QFrame(client_);
+    trackChooser_->setObjectName("picTrackChooser");
+    trackChooser_->setFrameShape(QFrame::StyledPanel);
+    auto* title = new QLabel("Track: Untitled Track", strip_);
+    title->setObjectName("lblNotationTitle");
+    title->setStyleSheet("color: #555555");
+    title->move(16, 4);
+    title->adjustSize();
+    editor_.page().noteLineColor = palette().color(QPalette::Highlight).rgb();
+    for (QWidget* hidden : {static_cast<QWidget*>(lbldebug_), static_cast<QWidget*>(fretboard_),
+                            static_cast<QWidget*>(strip_), static_cast<QWidget*>(trackChooser_)})
+        hidden->hide();
+}
+
+void frmMain::connectPanels() {
+    connect(VScroll1_, &QScrollBar::valueChanged, this,
+            [this](int value) { editor_.VScroll1_Change(value); });
+    strip_->paintObjects = [this](QPainter& painter) {
+        const PageObjects& objects = editor_.page();
+        painter.fillRect(objects.NoteLine.x1, 0, objects.borderWidth, strip_->height(),
+                         QColor(objects.noteLineColor));
+    };
+    noteSelector_->closed = [this] { closePanel(*noteSelector_); };
+    bendPanel_->chosen = [this](int code) { closeBendPanel(code); };
+    repeatPanel_->chosen = [this](int value) { closeRepeatPanel(value); };
+    toolbar_->pressed = [this](const QString& word) {
+        const QHash<QString, QString> items = {
+            {"new", "mnuFileNew"}, {"open", "mnuFileOpen"}, {"save", "mnuFileSave"}};
+        if (items.contains(word)) menu_->action(items.value(word))->trigger();
+    };
+}
+
+void frmMain::connectPage() {
+    PageWidget::Handlers handlers;
+    handlers.key = [this](int keyCode, int shift) { editor_.picDocument_KeyDown(keyCode, shift); };
+    handlers.mouseDown = [this](int button, int x, int y) {
+        editor_.picDocument_MouseDown(buttonOf(button), x, y);
+    };
+    handlers.doubleClick = [] {};
+    handlers.scrollBy = [this](int staves) { editor_.VScroll1_Change(editor_.scroll().value + staves); };
+    handlers.scrollPageUp = [this] {
+        editor_.VScroll1_Change(editor_.scroll().value - document_.VisibleStaves);
+    };
+    handlers.scrollPageDown = [this] {
+        editor_.VScroll1_Change(editor_.scroll().value + document_.VisibleStaves);
+    };
+    page_->setHandlers(std::move(handlers));
+}
+
+void frmMain::connectMenus() {
+    menu_->connectItem("mnuFileNew", [this] { commands_.mnuFileNew(); });
+    menu_->connectItem("mnuFileOpen", [this] { commands_.mnuFileOpen(); });
+    menu_->connectItem("mnuFileSave", [this] { commands_.mnuFileSave(); });
+    menu_->connectItem("mnuSaveAs", [this] { commands_.mnuSaveAs(); });
+    menu_->connectItem("mnuExit", [this] { close(); });
+    menu_->connectItem("mnuStandard", [this] { chooseMode(false); });
+    menu_->connectItem("mnuCCP", [this] { chooseMode(true); });
+    menu_->connectItem("mnuIntelligent",
+                       [this] { editor_.modes.intelligent = menu_->isChecked("mnuIntelligent"); });
+    menu_->connectItem("mnuViewNotation", [this] { mnuViewNotation(); });
+    menu_->connectItem("mnuViewRefresh", [this] { editor_.refreshdrawing(); });
+    menu_->connectItem("mnuTechSupport",
+                       [this] { openSettingAddress("SupportAddress", "mailto:support@tabrova.invalid"); });
+    menu_->connectItem("mnuNewVersionCheck",
+                       [this] { openSettingAddress("UpdatePage", "https://tabrova.invalid/update"); });
+    menu_->connectItem("mnuAbout", [this] { showAbout(); });
+    menu_->setChecked("mnuStandard", true);
+    connectNoteMenu();
+}
+
+void frmMain::connectNoteMenu() {
+    const auto sends = [this](const char* name, int keyCode, int shift) {
+        menu_->connectItem(name, [this, keyCode, shift] { editor_.picDocument_KeyDown(keyCode, shift); });
+    };
+    sends("mnuNoteDeleteNote", key::Delete, 0);
+    sends("mnuNoteDeleteTechnique", key::Delete, key::ShiftBit);
+    sends("mnuInsertSeparator", key::Enter, 0);
+    sends("mnuInsertOpenRepeat", key::Space, 0);
+    sends("mnuInsertClosedRepeat", key::Space, key::ShiftBit);
+    sends("mnuNoteRemoveBar", key::U, 0);
+}
+
+void frmMain::chooseMode(bool powerChord) {
+    editor_.modes.powerChord = powerChord;
+    menu_->setChecked("mnuStandard", !powerChord);
+    menu_->setChecked("mnuCCP", powerChord);
+}
+
+void frmMain::placePanels() {
+    toolbar_->setGeometry(0, 0, client_->width(), StripTop);
+    page_->setGeometry(qRect(layout_.picDocument));
+    strip_->setGeometry(qRect(layout_.picStandardNotation));
+    strip_->setVisible(layout_.stripShown);
+    VScroll1_->setGeometry(qRect(layout_.VScroll1));
+    fretboard_->setGeometry(qRect(layout_.picFretboard));
+    fretboard_->setVisible(layout_.fretboardShown);
+    statusBar_->setGeometry(qRect(layout_.StatusBar1));
+    lbldebug_->setGeometry(qRect(layout_.lbldebug));
+    trackChooser_->setGeometry(qRect(layout_.picTrackChooser));
+}
+
+bool frmMain::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == client_ && event->type() == QEvent::Resize) Form_Resize();
+    if (watched == client_ && event->type() == QEvent::Paint) paintRuler();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+// The ruler stands in the window itself: between strip and page, or above the page when the strip is hidden.
+void frmMain::paintRuler() {
+    QPainter painter(client_);
+    const auto draw = [&](int top) {
+        constexpr int TickHeight = 6;
+        for (const RulerTick& tick : view_.ruler()) {
+            const QColor color = tick.onBeat ? QColor(Qt::black) : palette().color(QPalette::Dark);
+            painter.fillRect(tick.x, top, 1, TickHeight, color);
+            painter.fillRect(tick.whiteX, top, 1, TickHeight, Qt::white);
+        }
+    };
+    draw(194);
+    if (!layout_.stripShown) draw(24);
+}
+
+void frmMain::refreshPage() { page_->update(); }
+
+void frmMain::refreshStrip() {
+    strip_->update();
+    client_->update(0, StripTop, client_->width(), PageTopWithStrip - StripTop);
+}
+
+void frmMain::refreshFretboard() {
+    if (layout_.fretboardShown) fretboard_->update();
+    // The cursor's lines follow every move.
+    page_->update();
+    if (layout_.stripShown) strip_->update();
+}
+
+void frmMain::mirrorScrollBar(int maximum, int value) {
+    const QSignalBlocker quiet(VScroll1_);
+    VScroll1_->setMaximum(maximum);
+    VScroll1_->setPageStep(std::max<int>(document_.VisibleStaves, 1));
+    VScroll1_->setValue(value);
+}
+
+void frmMain::setTitle(const std::string& title) { setWindowTitle(fromCodePage(title)); }
+
+void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(fromCodePage(text)); }
+
+void frmMain::setTrackPanel(const std::string& text) { statusBar_->setTrackPanel(fromCodePage(text)); }
+
+void frmMain::UpdateTechniqueButtons(bool guitarTrack) { toolbar_->UpdateTechniqueButtons(guitarTrack); }
+
+Rect frmMain::pageGeometry() const { return layout_.picDocument; }
+
+Rect frmMain::panelGeometry(Panel panel) const {
+    const QWidget* widget = panel == Panel::Bend ? static_cast<QWidget*>(bendPanel_) : repeatPanel_;
+    return {widget->x(), widget->y(), widget->width(), widget->height()};
+}
+
+void frmMain::openPanel(Panel panel, const Rect& place) {
+    QWidget* widget = panel == Panel::Bend ? static_cast<QWidget*>(bendPanel_) : repeatPanel_;
+    widget->move(place.left, place.top);
+    widget->show();
+    widget->raise();
+    page_->setEnabled(false);
+    QWidget* keyboard = panel == Panel::Bend ? static_cast<QWidget*>(bendPanel_) : &repeatPanel_->scroller();
+    keyboard->setFocus();
+}
+
+Rect frmMain::noteSelectorGeometry() const {
+    return {noteSelector_->x(), noteSelector_->y(), noteSelector_->width(), noteSelector_->height()};
+}
+
+void frmMain::openNoteSelector(const Rect& place) { noteSelector_->openAt(place); }
+
+void frmMain::focusPage() { page_->setFocus(); }
+
+// A panel that closes by its button sends a key that does nothing but redraw.
+void frmMain::closePanel(QWidget& panel) {
+    panel.hide();
+    editor_.picDocument_KeyDown(key::RedrawOnly, 0);
+}
+
+void frmMain::closeBendPanel(int code) {
+    bendPanel_->hide();
+    page_->setEnabled(true);
+    editor_.StoreTechnique(code);
+    focusPage();
+    editor_.refreshdrawing();
+}
+
+void frmMain::closeRepeatPanel(int value) {
+    page_->setEnabled(true);
+    repeatPanel_->hide();
+    editor_.DrawAndStoreNote(code::ClosedRepeatBase + value);
+    focusPage();
+    refreshPage();
+}
+
+void frmMain::restartSoundStopper(int milliseconds) {
+    tmrsndStopper_->setEnabled(false);
+    tmrsndStopper_->setInterval(milliseconds);
+    tmrsndStopper_->setEnabled(true);
+}
+
+void frmMain::unloadFileProperties() {}
+
+bool frmMain::debugMode() const { return false; }
+
+bool frmMain::playing() const { return false; }
+
+} // namespace tabrova

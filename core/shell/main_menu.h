@@ -1,0 +1,32 @@
+// The main window's menus: one table of names, captions, places and shortcuts, and the bar built from it.
+#pragma once
+
+#include <QAction>
+#include <QHash>
+#include <QMenuBar>
+#include <QString>
+
+#include <functional>
+
+namespace tabrova {
+
+class MainMenu {
+  public:
+    // Every menu and item gets its name as objectName; an item without a command is disabled.
+    explicit MainMenu(QMenuBar& bar);
+
+    // The action of a menu or item; nullptr for a name that is not there. Names are matched without regard to
+    // case.
+    QAction* action(const QString& name) const { return actions_.value(name.toLower()); }
+    // The item runs `command` from now on, and is enabled.
+    void connectItem(const QString& name, std::function<void()> command);
+    void setEnabled(const QString& name, bool enabled);
+    bool isChecked(const QString& name) const;
+    void setChecked(const QString& name, bool checked);
+
+  private:
+    QHash<QString, QAction*> actions_;
+    QHash<QString, QMenu*> menus_;
+};
+
+} // namespace tabrova

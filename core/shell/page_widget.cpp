@@ -1,0 +1,59 @@
+#include "core/shell/page_widget.h"
+
+#include "core/shell/key_mapping.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace tabrova {
+
+PageWidget::PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent)
+    : SurfaceWidget("picDocument", surface, parent), objects_(objects) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Tablature page"));
+    paintObjects = [this](QPainter& painter) { paintCursor(painter); };
+}
+
+void PageWidget::paintCursor(QPainter& painter) const {
+    const QColor color(objects_.color);
+    const int width = objects_.borderWidth;
+    if (objects_.vLine1Visible)
+        painter.fillRect(objects_.vLine1.x1, objects_.vLine1.y1, width,
+                         objects_.vLine1.y2 - objects_.vLine1.y1, color);
+    const Rect& cursor = objects_.nCursor;
+    painter.fillRect(cursor.left, cursor.top, cursor.width, width, color);
+    painter.fillRect(cursor.left, cursor.bottom() - width, cursor.width, width, color);
+    painter.fillRect(cursor.left, cursor.top, width, cursor.height, color);
+    painter.fillRect(cursor.right() - width, cursor.top, width, cursor.height, color);
+}
+
+void PageWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_PageUp) return handlers_.scrollPageUp();
+    if (event->key() == Qt::Key_PageDown) return handlers_.scrollPageDown();
+    if (isModifierAlone(*event)) return event->ignore();
+    const KeyPress press = keyPressOf(*event);
+    handlers_.key(press.keyCode, press.shift);
+}
+
+void PageWidget::mousePressEvent(QMouseEvent* event) {
+    setFocus(Qt::MouseFocusReason);
+    handlers_.mouseDown(event->button(), event->position().toPoint().x(), event->position().toPoint().y());
+}
+
+// The second press of a double click is a press like the first.
+void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    handlers_.doubleClick();
+}
+
+// One notch of the wheel is one staff; fine wheels add up.
+void PageWidget::wheelEvent(QWheelEvent* event) {
+    constexpr int Notch = 120;
+    wheelRest_ += event->angleDelta().y();
+    const int staves = wheelRest_ / Notch;
+    wheelRest_ -= staves * Notch;
+    if (staves != 0) handlers_.scrollBy(-staves);
+    event->accept();
+}
+
+} // namespace tabrova

@@ -1,0 +1,54 @@
+#include "core/shell/repeat_panel.h"
+
+#include "editing/key_codes.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+
+namespace tabrova {
+
+namespace {
+
+constexpr int PanelWidth = 170;
+constexpr int PanelHeight = 62;
+
+QLabel* addLabel(const char* name, const QString& text, const QRect& place, QWidget* panel) {
+    auto* label = new QLabel(text, panel);
+    label->setObjectName(name);
+    QFont small = label->font();
+    small.setPixelSize(11);
+    label->setFont(small);
+    label->setGeometry(place);
+    return label;
+}
+
+} // namespace
+
+RepeatScroller::RepeatScroller(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
+    setObjectName("RepeatScroller");
+    setRange(1, code::MostRepeats);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+void RepeatScroller::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return entered();
+    QScrollBar::keyPressEvent(event);
+}
+
+RepeatPanel::RepeatPanel(QWidget* parent) : QFrame(parent), scroller_(new RepeatScroller(this)) {
+    setObjectName("picRepeat");
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    setFixedSize(PanelWidth, PanelHeight);
+    addLabel("lblRepeatTitle", " Times to Repeat:", {1, 2, 110, 15}, this);
+    lblRepeatTimes_ = addLabel("lblRepeatTimes", "1", {120, 2, 40, 15}, this);
+    lblRepeatTimes_->setAlignment(Qt::AlignRight);
+    addLabel("lblRepeatHint", "Use Arrow Keys to Change", {4, 43, PanelWidth - 6, 15}, this);
+    scroller_->setGeometry(6, 22, PanelWidth - 12, 16);
+    connect(scroller_, &QScrollBar::valueChanged, this,
+            [this](int value) { lblRepeatTimes_->setText(QString::number(value)); });
+    scroller_->entered = [this] { chosen(scroller_->value()); };
+    hide();
+}
+
+} // namespace tabrova

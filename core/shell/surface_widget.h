@@ -1,0 +1,27 @@
+// A widget that shows a drawing surface pixel by pixel, whatever the screen's resolution.
+#pragma once
+
+#include "tabview/surface.h"
+
+#include <QWidget>
+
+#include <functional>
+
+namespace tabrova {
+
+class SurfaceWidget : public QWidget {
+  public:
+    SurfaceWidget(const QString& name, const Surface& surface, QWidget* parent);
+
+    const Surface& surface() const { return surface_; }
+    // Draws what floats above the surface, in logical pixels.
+    std::function<void(QPainter&)> paintObjects;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const Surface& surface_;
+};
+
+} // namespace tabrova

@@ -1,0 +1,37 @@
+// The window-size rules: where the main window's panels stand for a size of its client area. Logical pixels.
+#pragma once
+
+#include "tabview/surface.h"
+
+namespace tabrova {
+
+constexpr int NarrowestFollowedWidth = 783; // up to this width the page keeps its own
+constexpr int PageTopWithStrip = 204;
+constexpr int PageTopWithoutStrip = 38;
+constexpr int StripTop = 24;
+constexpr int StripHeight = 168;
+constexpr int ScrollBarWidth = 16;
+constexpr int FretboardWidth = 89;
+constexpr int StatusBarHeight = 24;
+
+struct WindowLayout {
+    Rect picDocument = {0, PageTopWithoutStrip, NarrowestFollowedWidth - ScrollBarWidth, 300};
+    Rect picStandardNotation = {-8, StripTop, 0,
+                                StripHeight}; // so that its cursor line stands over the page's
+    Rect VScroll1 = {0, PageTopWithoutStrip, ScrollBarWidth, 300};
+    Rect picFretboard = {0, PageTopWithoutStrip, FretboardWidth, 300};
+    Rect lbldebug = {0, 0, 330, StatusBarHeight - 2};
+    Rect StatusBar1;
+    Rect picTrackChooser = {0, 0, 260, 200};
+    bool stripShown = false;
+    bool fretboardShown = false;
+};
+
+// The layout for a client area of this size. `visibleStaves` is the document's; a page is at least one pixel
+// high.
+WindowLayout layOutWindow(WindowLayout layout, int clientWidth, int clientHeight, int visibleStaves);
+
+// The strip shown or hidden: the page's and the scroll bar's tops follow.
+WindowLayout withStrip(WindowLayout layout, bool shown);
+
+} // namespace tabrova

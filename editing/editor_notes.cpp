@@ -1,0 +1,113 @@
+// Note entry: one typed note is stored, its one cell drawn and its column sounded, with no walk over the
+// page.
+#include "core/document_operations.h"
+#include "editing/editor.h"
+#include "editing/key_codes.h"
+#include "sound/column_preview.h"
+#include "tabview/page_marks.h"
+
+namespace tabrova {
+
+namespace {
+
+constexpr int PercussionChannel = 9;
+constexpr int LowestChordString = 4; // power chords grow only from strings 4 and 5
+constexpr double HighestChordRoot = 28.0;
+
+bool isDigitCode(int code) { return code >= key::Digit0 && code <= key::Digit9; }
+
+// The mark that a code stores; nothing for the codes of the note grid.
+std::optional<std::string> barMarkOf(int code) {
+    if (code == key::Enter) return ".";
+    if (code == code::OpenedRepeat) return "r";
+    if (code == code::ClosedRepeatPanel) return "";
+    const int count = code - code::ClosedRepeatBase;
+    if (count >= 1 && count <= code::MostRepeats) return "r" + std::to_string(count);
+    return std::nullopt;
+}
+
+std::string plainDecimal(double value) { return std::to_string(static_cast<int>(roundHalfToEven(value))); }
+
+} // namespace
+
+void Editor::DrawAndStoreNote(int code) {
+    GetCurrentXPosition(document_);
+    storeNoteText(code);
+    if (code == code::ClosedRepeatPanel) openPanel(Panel::Repeat);
+    // Before the drawing and the sound, and for every code: the chord's notes are in the grid when the column
+    // sounds.
+    if (modes.powerChord) CreateAndStorePChord();
+    drawTypedCell();
+    drawTypedBarMark();
+    soundColumn();
+}
+
+void Editor::storeNoteText(int code) {
+    const int column = document_.CurrentColumn;
+    const int row = document_.cursorRow();
+    if (const auto mark = barMarkOf(code)) return document_.setBarMark(column, *mark);
+    if (isDigitCode(code)) {
+        const std::string_view old = document_.note(column, row);
+        std::string text = old == "1" || old == "2" ? std::string(old) : std::string();
+        text.push_back(static_cast<char>(code));
+        return document_.setNote(column, row, text);
+    }
+    document_.setNote(column, row, code == key::X ? "x" : code == key::J ? ">" : "");
+}
+
+// A fifth and an octave above the root on a standard guitar.
+void Editor::CreateAndStorePChord() {
+    if (document_.CurrentString < LowestChordString) return;
+    GetCurrentXPosition(document_);
+    const int column = document_.CurrentColumn;
+    const int row = document_.cursorRow();
+    const auto root = toNumber(document_.note(column, row));
+    if (!root || *root >= HighestChordRoot) return;
+    const auto fret = toInteger16(*root + 2.0);
+    if (!fret) return;
+    document_.setNote(column, row - 1, plainDecimal(*fret));
+    document_.setNote(column, row - 2, plainDecimal(*fret));
+}
+
+void Editor::drawTypedCell() {
+    const std::string_view text = document_.note(document_.CurrentColumn, document_.cursorRow());
+    const auto glyph = text.empty() ? std::optional<Rect>(sprite::BlankCell) : noteGlyph(text);
+    if (!glyph) return;
+    view_.copyToPage({{page_.nCursor.left + 2, page_.nCursor.top + 1, glyph->width, glyph->height},
+                      *glyph,
+                      Raster::SrcCopy});
+}
+
+// "." and "r" deliberately stand 8 pixels left of where the next redraw puts them.
+void Editor::drawTypedBarMark() {
+    const std::string_view mark = document_.barMark(document_.CurrentColumn);
+    const int left = page_.nCursor.left;
+    const int top = page_.nCursor.top - StringSpacing * document_.CurrentString;
+    const auto draw = [this](const Rect& source, int x, int y) {
+        view_.copyToPage({{x, y, source.width, source.height}, source, Raster::SrcAnd});
+    };
+    if (mark == ".") draw(sprite::BarLine, left - 14, top);
+    if (mark == "r") draw(sprite::OpenedRepeat, left - 22, top);
+    if (const auto count = closedRepeatCount(mark)) {
+        draw(sprite::ClosedRepeat, left - 10, top);
+        draw(sprite::RepeatTimes, left - 16, top - 8);
+        draw(repeatCountGlyph(*count), left - 8, top - 8);
+    }
+}
+
+void Editor::soundColumn() {
+    GetCurrentXPosition(document_);
+    sound_.AllNotesOff();
+    sendColumnPreview(document_, sound_);
+    if (document_.RealtimeMode == static_cast<std::int16_t>(RealtimeMode::Nothing)) return;
+    if (const auto duration = previewDuration(document_)) host_.restartSoundStopper(*duration);
+}
+
+void Editor::DrawAndStorePercussionNote(int drumKey) {
+    GetCurrentXPosition(document_);
+    document_.setNote(document_.CurrentColumn, document_.cursorRow(), std::to_string(drumKey));
+    sound_.NoteOn(PercussionChannel, drumKey, sound_.FixedVelocity);
+    refreshdrawing();
+}
+
+} // namespace tabrova

@@ -1,0 +1,81 @@
+#include "platform/message_boxes.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <utility>
+
+namespace tabrova {
+
+namespace {
+
+QMessageBox::Icon iconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Critical:
+        return QMessageBox::Critical;
+    case BoxIcon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton buttonOf(BoxAnswer answer) {
+    switch (answer) {
+    case BoxAnswer::Yes:
+        return QMessageBox::Yes;
+    case BoxAnswer::No:
+        return QMessageBox::No;
+    case BoxAnswer::Cancel:
+        return QMessageBox::Cancel;
+    case BoxAnswer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+BoxAnswer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return BoxAnswer::Yes;
+    case QMessageBox::No:
+        return BoxAnswer::No;
+    case QMessageBox::Ok:
+        return BoxAnswer::Ok;
+    default:
+        return BoxAnswer::Cancel;
+    }
+}
+
+} // namespace
+
+BoxAnswer DesktopMessageBoxes::ask(const MessageBox& box) {
+    QMessageBox window(QApplication::activeWindow());
+    window.setWindowTitle(box.title);
+    window.setTextFormat(Qt::PlainText);
+    window.setText(box.text);
+    window.setIcon(iconOf(box.icon));
+    for (const BoxAnswer button : box.buttons)
+        window.addButton(buttonOf(button));
+    window.setDefaultButton(buttonOf(box.buttons.first()));
+    return answerOf(window.exec());
+}
+
+BoxAnswer RecordingMessageBoxes::ask(const MessageBox& box) {
+    BoxAnswer answer = box.buttons.first();
+    if (!answers_.empty()) {
+        answer = answers_.front();
+        answers_.pop_front();
+    }
+    asked_.append({box, answer});
+    return answer;
+}
+
+QList<RecordingMessageBoxes::Asked> RecordingMessageBoxes::take() { return std::exchange(asked_, {}); }
+
+} // namespace tabrova

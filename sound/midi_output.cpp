@@ -1,0 +1,74 @@
+#include "sound/midi_output.h"
+
+namespace tabrova {
+
+namespace {
+
+constexpr int StatusNoteOn = 0x90;
+constexpr int StatusController = 0xB0;
+constexpr int StatusProgram = 0xC0;
+constexpr int ControllerBank = 0;
+constexpr int ControllerAllSoundOff = 120;
+constexpr int ControllerAllNotesOff = 123;
+constexpr int LastChannelSilenced = 8;
+constexpr int NoDevice = 1;
+
+} // namespace
+
+std::uint32_t PackShortMessage(int status, int data1, int data2) {
+    return static_cast<std::uint32_t>(status) + static_cast<std::uint32_t>(data1) * 256u +
+           static_cast<std::uint32_t>(data2) * 65536u;
+}
+
+MidiOutput::MidiOutput(MidiDevice& device, std::function<void(int)> failed)
+    : device_(device), failed_(std::move(failed)) {}
+
+void MidiOutput::SendShortMessage(int status, int data1, int data2) {
+    const std::uint32_t packed = PackShortMessage(status, data1, data2);
+    const ShortMessage bytes = {static_cast<std::uint8_t>(packed), static_cast<std::uint8_t>(packed >> 8),
+                                static_cast<std::uint8_t>(packed >> 16)};
+    const int code = open_ ? device_.send(bytes) : NoDevice;
+    if (code != 0) failed_(code);
+}
+
+void MidiOutput::NoteOn(int channel, int note, int velocity) {
+    SendShortMessage(StatusNoteOn + channel, note, velocity);
+}
+
+void MidiOutput::NoteOff(int channel, int note) { SendShortMessage(StatusNoteOn + channel, note, 0); }
+
+void MidiOutput::ControlChange(int channel, int controller, int value) {
+    SendShortMessage(StatusController + channel, controller, value);
+}
+
+void MidiOutput::ProgramChange(int channel, int program) {
+    ControlChange(channel, ControllerBank, BankValue);
+    SendShortMessage(StatusProgram + channel, program, 0);
+}
+
+void MidiOutput::ChannelNotesOff(int channel) {
+    ControlChange(channel, ControllerAllSoundOff, 0);
+    ControlChange(channel, ControllerAllNotesOff, 0);
+}
+
+void MidiOutput::AllNotesOff() {
+    for (int channel = 0; channel <= LastChannelSilenced; ++channel)
+        ChannelNotesOff(channel);
+}
+
+bool MidiOutput::OpenMidiDevice(int id) {
+    CloseMidiDevice();
+    const int code = device_.open(id);
+    open_ = code == 0;
+    if (code != 0) failed_(code);
+    return open_;
+}
+
+void MidiOutput::CloseMidiDevice() {
+    if (!open_) return;
+    const int code = device_.close();
+    if (code != 0) failed_(code);
+    open_ = false;
+}
+
+} // namespace tabrova

@@ -1,0 +1,126 @@
+#include "tabview/surface.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace tabrova {
+
+namespace {
+
+QRgb* row(QImage& image, int y) { return reinterpret_cast<QRgb*>(image.scanLine(y)); }
+const QRgb* row(const QImage& image, int y) { return reinterpret_cast<const QRgb*>(image.constScanLine(y)); }
+
+void copyPixels(QRgb* to, const QRgb* from, int count, Raster raster) {
+    if (raster == Raster::SrcCopy) {
+        std::memcpy(to, from, static_cast<std::size_t>(count) * sizeof(QRgb));
+        return;
+    }
+    for (int i = 0; i < count; ++i)
+        to[i] &= from[i];
+}
+
+// The part of one axis that lies on both surfaces: positions first to end - 1 of the copy.
+struct Span {
+    int first;
+    int end;
+};
+
+Span clip(int to, int toLimit, int from, int fromLimit, int length) {
+    return {std::max({0, -to, -from}), std::min({length, toLimit - to, fromLimit - from})};
+}
+
+Rect scaled(const Rect& rect, int scale) {
+    return {rect.left * scale, rect.top * scale, rect.width * scale, rect.height * scale};
+}
+
+// Stretches of a repeated row are common (a staff is one row of lines many times), so the columns' sources
+// are found once.
+void sourceColumns(std::vector<int>& columns, const Rect& place, const Rect& source, Span span) {
+    columns.resize(static_cast<std::size_t>(span.end - span.first));
+    for (int x = span.first; x < span.end; ++x)
+        columns[static_cast<std::size_t>(x - span.first)] =
+            source.left + static_cast<int>(static_cast<qint64>(x) * source.width / place.width);
+}
+
+void stretchRow(QRgb* to, const QRgb* from, const std::vector<int>& columns, Raster raster) {
+    if (raster == Raster::SrcCopy) {
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            to[i] = from[columns[i]];
+    } else {
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            to[i] &= from[columns[i]];
+    }
+}
+
+} // namespace
+
+Surface::Surface(int width, int height, QRgb background)
+    : width_(std::max(width, 1)), height_(std::max(height, 1)), background_(background),
+      image_(blankImage()) {}
+
+Surface::Surface(const QImage& image, int scale)
+    : width_(image.width() / scale), height_(image.height() / scale), scale_(scale),
+      background_(qRgb(255, 255, 255)), image_(image.convertToFormat(QImage::Format_RGB32)) {}
+
+QImage Surface::blankImage() const {
+    QImage image(width_ * scale_, height_ * scale_, QImage::Format_RGB32);
+    image.fill(background_);
+    return image;
+}
+
+void Surface::resize(int width, int height) {
+    width = std::max(width, 1);
+    height = std::max(height, 1);
+    if (width == width_ && height == height_) return;
+    const Surface old = *this;
+    width_ = width;
+    height_ = height;
+    image_ = blankImage();
+    BitBlt(*this, 0, 0, old.width(), old.height(), old, 0, 0, Raster::SrcCopy);
+}
+
+void Surface::setScale(int scale) {
+    if (scale == scale_) return;
+    scale_ = scale;
+    image_ = blankImage();
+}
+
+void Surface::Cls() { image_.fill(background_); }
+
+void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& from, int sourceX, int sourceY,
+            Raster raster) {
+    const int scale = to.scale();
+    QImage& image = to.image();
+    const Rect place = scaled({x, y, width, height}, scale);
+    const Rect source = scaled({sourceX, sourceY, width, height}, scale);
+    const Span xs = clip(place.left, image.width(), source.left, from.image().width(), place.width);
+    const Span ys = clip(place.top, image.height(), source.top, from.image().height(), place.height);
+    if (xs.first >= xs.end) return;
+    for (int line = ys.first; line < ys.end; ++line)
+        copyPixels(row(image, place.top + line) + place.left + xs.first,
+                   row(from.image(), source.top + line) + source.left + xs.first, xs.end - xs.first, raster);
+}
+
+void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect& source, Raster raster) {
+    if (place.width < 1 || place.height < 1) return;
+    if (place.width == source.width && place.height == source.height)
+        return BitBlt(to, place.left, place.top, place.width, place.height, from, source.left, source.top,
+                      raster);
+    const Rect target = scaled(place, to.scale());
+    const Rect piece = scaled(source, to.scale());
+    QImage& image = to.image();
+    const Span xs = {std::max(0, -target.left), std::min(target.width, image.width() - target.left)};
+    const Span ys = {std::max(0, -target.top), std::min(target.height, image.height() - target.top)};
+    if (xs.first >= xs.end) return;
+    static thread_local std::vector<int> columns;
+    sourceColumns(columns, target, piece, xs);
+    for (int line = ys.first; line < ys.end; ++line) {
+        const int sourceLine =
+            piece.top + static_cast<int>(static_cast<qint64>(line) * piece.height / target.height);
+        stretchRow(row(image, target.top + line) + target.left + xs.first, row(from.image(), sourceLine),
+                   columns, raster);
+    }
+}
+
+} // namespace tabrova

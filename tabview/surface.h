@@ -1,0 +1,72 @@
+// A drawing surface that keeps its image until it is cleared, and the two copy operations between surfaces.
+// All coordinates are logical pixels; a surface of scale 2 or 3 holds that many image pixels a logical pixel,
+// so that one geometry serves screens of every resolution. A copy needs both surfaces at the same scale.
+#pragma once
+
+#include <QImage>
+
+namespace tabrova {
+
+struct Rect {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+
+    int right() const { return left + width; }
+    int bottom() const { return top + height; }
+    bool operator==(const Rect&) const = default;
+};
+
+struct Line {
+    int x1 = 0;
+    int y1 = 0;
+    int x2 = 0;
+    int y2 = 0;
+    bool operator==(const Line&) const = default;
+};
+
+enum class Raster : unsigned {
+    SrcCopy = 0xCC0020,
+    SrcAnd = 0x8800C6, // black goes onto what is there, white is transparent
+};
+
+class Surface {
+  public:
+    Surface(int width, int height, QRgb background);
+    // An image whose pixels become the surface's, at its own size divided by `scale`.
+    Surface(const QImage& image, int scale);
+
+    int width() const { return width_; }
+    int height() const { return height_; }
+    int scale() const { return scale_; }
+    const QImage& image() const { return image_; }
+    QImage& image() { return image_; }
+
+    // The kept image stays where it was; what is new shows the background. Sizes below 1 count as 1.
+    void resize(int width, int height);
+    // Clears the image.
+    void setScale(int scale);
+    void setBackground(QRgb background) { background_ = background; }
+    QRgb background() const { return background_; }
+
+    void Cls();
+
+  private:
+    QImage blankImage() const;
+
+    int width_;
+    int height_;
+    int scale_ = 1;
+    QRgb background_;
+    QImage image_;
+};
+
+// What falls outside either surface is left out.
+void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& from, int sourceX, int sourceY,
+            Raster raster);
+
+// Enlarges or shrinks by nearest neighbour. A width or height below 1 draws nothing.
+void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect& source, Raster raster);
+
+} // namespace tabrova

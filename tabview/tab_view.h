@@ -1,0 +1,48 @@
+// The editor's surfaces and what draws on them. A redraw starts from empty surfaces; nothing about the page
+// is remembered between two redraws but its image.
+#pragma once
+
+#include "tabview/page_geometry.h"
+#include "tabview/page_layout.h"
+#include "tabview/surface.h"
+
+namespace tabrova {
+
+class TabView {
+  public:
+    TabView();
+
+    Surface picDocument;
+    Surface picStandardNotation;
+    Surface picFretboard;
+    const Surface& picSource() const { return sheet_; }
+
+    // Image pixels a logical pixel, 1 to 3, for all surfaces and the sheet. Clears the surfaces.
+    void setScale(int scale);
+
+    // The visible staves over a cleared page. Returns PageRow, the number of staves drawn.
+    int drawStaves(const Document& document);
+    void drawStripBackground();
+    // The notation of the cursor's staff on the strip and its rhythm under the tab; the beat ruler's ticks
+    // come first.
+    void DrawNotationAndRhythm(const Document& document);
+    // The neck with the notes of the cursor's column.
+    void DrawFretBoard(const Document& document);
+
+    // One copy onto the page, as the path of a typed note makes it.
+    void copyToPage(const SpriteCopy& copy);
+
+    const std::vector<RulerTick>& ruler() const { return ruler_; }
+
+  private:
+    void paint(Surface& surface, const std::vector<SpriteCopy>& copies);
+
+    Surface sheet_;
+    std::vector<SpriteCopy> copies_;
+    std::vector<RulerTick> ruler_;
+};
+
+// The sprite sheet at 1, 2 or 3 image pixels a logical pixel.
+Surface loadSheet(int scale);
+
+} // namespace tabrova
