@@ -26,17 +26,17 @@ struct Bend {
 
 const std::array<Bend, 12> bends{{
     {{425, 58, 10, 17}, Direction::Down, 1, 0, 5, 3.5, 9.5, 10},
-    {{437, 58, 12, 28}, Direction::Down, 2, 0, 6, 3.5, 14, 15},
+    {{437, 58, 12, 28}, Direction::Down, 2, 0, 5, 3.5, 14, 15},
     {{451, 57, 13, 32}, Direction::Down, 3, 0, 6, 3.5, 21, 22},
-    {{464, 57, 14, 32}, Direction::Down, 4, 0, 6, 3.5, 21, 22},
+    {{464, 57, 14, 32}, Direction::Down, 4, 0, 5, 3.5, 21, 22},
     {{480, 57, 14, 32}, Direction::Down, 5, 0, 6, 3.5, 21, 22},
-    {{493, 57, 14, 32}, Direction::Down, 6, 1, 7, 3.5, 21, 22},
+    {{493, 57, 14, 32}, Direction::Down, 6, 1, 6, 3.5, 21, 22},
     {{423, 101, 10, 17}, Direction::Up, 1, 0, 5, 16.5, 7.5, 0},
-    {{435, 90, 12, 28}, Direction::Up, 2, 0, 6, 27.5, 8, 0},
+    {{435, 90, 12, 28}, Direction::Up, 2, 0, 5, 27.5, 8, 0},
     {{448, 86, 13, 32}, Direction::Up, 3, 0, 6, 31.5, 12, 4},
-    {{461, 86, 14, 32}, Direction::Up, 4, 0, 6, 31.5, 12, 4},
+    {{461, 86, 14, 32}, Direction::Up, 4, 0, 5, 31.5, 12, 4},
     {{476, 86, 14, 32}, Direction::Up, 5, 0, 6, 31.5, 12, 4},
-    {{490, 86, 14, 32}, Direction::Up, 6, 0, 6, 31.5, 12, 4},
+    {{490, 86, 14, 32}, Direction::Up, 6, 0, 5, 31.5, 12, 4},
 }};
 
 constexpr double headLength = 4.5;
@@ -70,13 +70,10 @@ void drawSize(QPainter& painter, int scale, const Bend& bend) {
         drawDigit(painter, scale, digit, DigitWidth::Wide, {bend.arrowColumn - 2, bend.textRow});
         return;
     }
-    int left = 1;
-    if (whole > 0) {
-        left = whole == 1 ? 0 : 0;
-        drawDigit(painter, scale, digit, DigitWidth::Narrow, {left, bend.textRow});
-        left += whole == 1 ? 4 : 5;
-    }
-    drawHalf(painter, scale, {left, bend.textRow});
+    // The narrow one ends a column before its cell does, so the fraction moves up to it.
+    const int halfLeft = whole == 0 ? 1 : whole == 1 ? 4 : 5;
+    if (whole > 0) drawDigit(painter, scale, digit, DigitWidth::Narrow, {0, bend.textRow});
+    drawHalf(painter, scale, {halfLeft, bend.textRow});
 }
 
 } // namespace

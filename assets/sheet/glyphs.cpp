@@ -34,7 +34,8 @@ const std::array<PixelRows, 10> narrowDigits{{
     {".##.", "#..#", "#..#", ".###", "...#", "...#", ".##."},
 }};
 
-const PixelRows halfPixels{".#...#..", "##...#..", ".#..#...", ".#..###.", "...#...#", "...#.##.", "..#.####"};
+const PixelRows halfPixels{".#...#..", "##...#..", ".#..#...", ".#..###.",
+                           "...#...#", "...#.##.", "..#.####"};
 
 QPainterPath bowl(double left, double top, double right, double bottom) {
     const double radius = std::min(right - left, bottom - top) / 2;
@@ -45,9 +46,10 @@ QPainterPath bowl(double left, double top, double right, double bottom) {
 
 QPainterPath strokesOfOne(double width) {
     QPainterPath path;
-    path.moveTo(width / 2 < 2 ? 0.5 : 0.25, 1.75);
+    path.moveTo(2, 6);
     path.lineTo(2, 0);
-    path.lineTo(2, 6);
+    path.moveTo(width < 4 ? 0.3 : 0.5, 1.7);
+    path.lineTo(1.7, 0.5);
     return path;
 }
 
@@ -62,11 +64,12 @@ QPainterPath strokesOfTwo(double width) {
 
 QPainterPath strokesOfThree(double width) {
     QPainterPath path;
-    path.moveTo(0, 1.2);
-    path.cubicTo(0.3, -0.4, width, -0.4, width, 1.5);
-    path.cubicTo(width, 2.6, width - 1, 3, width / 2 - 0.4, 3);
-    path.cubicTo(width - 1, 3, width, 3.4, width, 4.5);
-    path.cubicTo(width, 6.5, 0.2, 6.5, 0, 4.8);
+    path.moveTo(-0.2, 1.2);
+    path.cubicTo(0.2, -0.4, width - 0.1, -0.4, width - 0.1, 1.4);
+    path.cubicTo(width - 0.1, 2.4, width - 0.8, 2.9, width * 0.5, 2.9);
+    path.moveTo(width * 0.5, 2.9);
+    path.cubicTo(width - 0.5, 2.9, width, 3.5, width, 4.5);
+    path.cubicTo(width, 6.4, 0.2, 6.4, -0.2, 4.8);
     return path;
 }
 
@@ -119,30 +122,46 @@ QPainterPath strokesOfNine(double width) {
 
 QPainterPath strokesOfDigit(char digit, double width) {
     switch (digit) {
-    case '0': return bowl(0, 0, width, 6);
-    case '1': return strokesOfOne(width);
-    case '2': return strokesOfTwo(width);
-    case '3': return strokesOfThree(width);
-    case '4': return strokesOfFour(width);
-    case '5': return strokesOfFive(width);
-    case '6': return strokesOfSix(width);
-    case '7': return strokesOfSeven(width);
-    case '8': return strokesOfEight(width);
-    default: return strokesOfNine(width);
+    case '0':
+        return bowl(0, 0, width, 6);
+    case '1':
+        return strokesOfOne(width);
+    case '2':
+        return strokesOfTwo(width);
+    case '3':
+        return strokesOfThree(width);
+    case '4':
+        return strokesOfFour(width);
+    case '5':
+        return strokesOfFive(width);
+    case '6':
+        return strokesOfSix(width);
+    case '7':
+        return strokesOfSeven(width);
+    case '8':
+        return strokesOfEight(width);
+    default:
+        return strokesOfNine(width);
     }
 }
 
-void strokeGlyph(QPainter& painter, const QPainterPath& strokes, const QPoint& at, double width) {
-    strokePath(painter, strokes.translated(at.x() + 0.5, at.y() + 0.5), width);
+void strokeGlyph(QPainter& painter, const QPainterPath& strokes, const QPoint& at, double width,
+                 Qt::PenCapStyle ends = Qt::SquareCap) {
+    strokePath(painter, strokes.translated(at.x() + 0.5, at.y() + 0.5), width, ends);
 }
 
 PixelRows pixelsOfLetter(char letter) {
     switch (letter) {
-    case 'H': return {"#...#", "#...#", "#...#", "#####", "#...#", "#...#", "#...#"};
-    case 'a': return {"....", "....", ".##.", "...#", ".###", "#..#", ".###"};
-    case 'S': return {".###.", "#...#", "#....", ".###.", "....#", "#...#", ".###."};
-    case 'P': return {"####.", "#...#", "#...#", "####.", "#....", "#....", "#...."};
-    default: return {"..", "..", "..", "..", "..", "##", "##"};
+    case 'H':
+        return {"#...#", "#...#", "#...#", "#####", "#...#", "#...#", "#...#"};
+    case 'a':
+        return {"....", "....", ".##.", "...#", ".###", "#..#", ".###"};
+    case 'S':
+        return {".###.", "#...#", "#....", ".###.", "....#", "#...#", ".###."};
+    case 'P':
+        return {"####.", "#...#", "#...#", "####.", "#....", "#....", "#...."};
+    default:
+        return {"..", "..", "..", "..", "..", "##", "##"};
     }
 }
 
@@ -193,7 +212,9 @@ void drawDigit(QPainter& painter, int scale, char digit, DigitWidth width, const
         drawPixels(painter, at, width == DigitWidth::Wide ? wideDigits[index] : narrowDigits[index]);
         return;
     }
-    strokeGlyph(painter, strokesOfDigit(digit, static_cast<int>(width) - 1), at, 1);
+    // Longer ends would close the open sides of the three, and make an eight of it.
+    const Qt::PenCapStyle ends = digit == '3' ? Qt::FlatCap : Qt::SquareCap;
+    strokeGlyph(painter, strokesOfDigit(digit, static_cast<int>(width) - 1), at, 1, ends);
 }
 
 void drawHalf(QPainter& painter, int scale, const QPoint& at) {
@@ -203,9 +224,10 @@ void drawHalf(QPainter& painter, int scale, const QPoint& at) {
     }
     const double thin = 0.75;
     QPainterPath path;
-    path.moveTo(0, 0.9);
+    path.moveTo(1, 2.9);
     path.lineTo(1, 0);
-    path.lineTo(1, 2.9);
+    path.moveTo(0, 0.9);
+    path.lineTo(0.7, 0.3);
     path.moveTo(5, 0);
     path.lineTo(2.2, 6);
     strokeGlyph(painter, path, at, thin);

@@ -58,7 +58,8 @@ int writePreview(const QString& path, int scale) {
     const QImage page = sheet::previewPage(drawSheet(scale), scale);
     if (!save(page, path)) return 1;
     if (scale > 1) return 0;
-    const QString enlargedPath = QString(path).replace(QStringLiteral(".png"), QStringLiteral("-enlarged.png"));
+    const QString enlargedPath =
+        QString(path).replace(QStringLiteral(".png"), QStringLiteral("-enlarged.png"));
     return save(page.scaled(page.size() * enlargement), enlargedPath) ? 0 : 1;
 }
 

@@ -57,8 +57,9 @@ void drawHeads(SheetCanvas& canvas) {
 void drawSharp(SheetCanvas& canvas) {
     canvas.paint(QRect(470, 35, 8, 9), [&](QPainter& painter) {
         if (canvas.scale() == 1) {
-            drawPixels(painter, {1, 0},
-                       {"....#.", ".#..#.", ".#.###", "####..", ".#..#.", ".#.###", "####..", ".#..#.", ".#...."});
+            drawPixels(
+                painter, {1, 0},
+                {"....#.", ".#..#.", ".#.###", "####..", ".#..#.", ".#.###", "####..", ".#..#.", ".#...."});
             return;
         }
         painter.fillRect(QRectF(2, 1, 1, 8), ink);
@@ -78,10 +79,12 @@ void drawRhythm(SheetCanvas& canvas) {
     canvas.paint(QRect(346, 0, 1, 18), [](QPainter& painter) { painter.fillRect(QRect(0, 0, 1, 18), ink); });
     // Read downwards from its tenth row the ladder gives one, two or three beams; read whole, four.
     canvas.paint(QRect(347, 1, 10, 17), [](QPainter& painter) {
-        for (const int row : {6, 9, 12, 15}) painter.fillRect(QRect(0, row, 10, 2), ink);
+        for (const int row : {6, 9, 12, 15})
+            painter.fillRect(QRect(0, row, 10, 2), ink);
     });
     canvas.paint(QRect(365, 30, 1, 11), [](QPainter& painter) {
-        for (const int row : {0, 3, 6, 9}) painter.fillRect(QRect(0, row, 1, 2), ink);
+        for (const int row : {0, 3, 6, 9})
+            painter.fillRect(QRect(0, row, 1, 2), ink);
     });
     canvas.paint(QRect(421, 35, 5, 5), [&](QPainter& painter) {
         if (canvas.scale() == 1) {

@@ -23,7 +23,8 @@ enum class Raster { Copy, And };
 class MockPage {
   public:
     MockPage(const QImage& sheetImage, int scale)
-        : sheet_(sheetImage), scale_(scale), page_(pageWidth * scale, pageHeight * scale, QImage::Format_RGB32) {
+        : sheet_(sheetImage), scale_(scale),
+          page_(pageWidth * scale, pageHeight * scale, QImage::Format_RGB32) {
         page_.fill(QColor(255, 254, 242));
         fill(QRect(0, 0, pageWidth, stripHeight), Qt::white);
     }
@@ -141,12 +142,14 @@ void drawClosedRepeat(MockPage& page, int row, int column, int mark) {
 }
 
 void drawNumberRow(MockPage& page) {
-    for (int fret = 0; fret <= 29; ++fret) drawFret(page, 0, fret, fret % 6, fret);
+    for (int fret = 0; fret <= 29; ++fret)
+        drawFret(page, 0, fret, fret % 6, fret);
     for (int number = 30; number <= 46; ++number)
         drawCell(page, 0, number - 30, (number + 3) % 6, {1 + 10 * (number - 30), 9});
     drawCell(page, 0, 30, 1, {301, 1});
     drawCell(page, 0, 30, 3, {171, 9});
-    for (int mark = 1; mark <= 15; ++mark) drawClosedRepeat(page, 0, 2 * mark, mark);
+    for (int mark = 1; mark <= 15; ++mark)
+        drawClosedRepeat(page, 0, 2 * mark, mark);
 }
 
 void drawTechniqueRow(MockPage& page) {
@@ -159,7 +162,8 @@ void drawTechniqueRow(MockPage& page) {
         drawMark(page, 1, index * 2, string, codes[index].toLatin1(), 1);
         drawMark(page, 1, index * 2 + 1, string + 1, codes[index].toLatin1(), 1);
     }
-    for (const int column : {4, 8, 12, 16, 24}) drawBar(page, 1, column);
+    for (const int column : {4, 8, 12, 16, 24})
+        drawBar(page, 1, column);
     drawClosedRepeat(page, 1, 31, 3);
 }
 
@@ -190,12 +194,15 @@ void drawRhythm(MockPage& page, int column, int columns, int ladderTop, int ladd
     page.stretch(QRect(left + 27, top + 85, 1, 18), QRect(346, 0, 1, 18), Raster::Copy);
     page.stretch(QRect(left + 28, top + 103 - ladderHeight, columns * columnWidth, ladderHeight),
                  QRect(347, ladderTop, 10, ladderHeight), Raster::And);
-    page.stretch(QRect(left + columns * columnWidth + 27, top + 85, 1, 18), QRect(346, 0, 1, 18), Raster::And);
+    page.stretch(QRect(left + columns * columnWidth + 27, top + 85, 1, 18), QRect(346, 0, 1, 18),
+                 Raster::And);
 }
 
 void drawRhythmRow(MockPage& page) {
-    for (const int column : {0, 1, 2, 3, 4, 6, 8, 12, 16}) drawFret(page, 3, column, 5, column % 4);
-    for (int column = 0; column < 4; ++column) drawRhythm(page, column, 1, 1, 17);
+    for (const int column : {0, 1, 2, 3, 4, 6, 8, 12, 16})
+        drawFret(page, 3, column, 5, column % 4);
+    for (int column = 0; column < 4; ++column)
+        drawRhythm(page, column, 1, 1, 17);
     drawRhythm(page, 4, 2, 10, 8);
     drawRhythm(page, 6, 2, 10, 8);
     drawRhythm(page, 8, 4, 10, 5);
@@ -207,10 +214,10 @@ void drawStrip(MockPage& page) {
     page.copy(9, 30, QRect(596, 0, 45, 154), Raster::Copy);
     page.stretch(QRect(39, 30, pageWidth - 50, 154), QRect(630, 0, 1, 154), Raster::Copy);
     constexpr std::array<int, 4> beams{11, 8, 5, 3};
-    constexpr std::array<int, 8> heights{92, 89, 86, 83, 80, 77, 74, 95};
+    constexpr std::array<int, 8> heights{86, 89, 92, 83, 80, 77, 74, 95};
     for (int column = 0; column < 24; ++column) {
         const int left = columnWidth * column;
-        const int noteTop = heights[static_cast<std::size_t>(column % 8)] + (column == 0 ? -4 : 0) - 1;
+        const int noteTop = heights[static_cast<std::size_t>(column % 8)];
         const int head = column < 16 ? 445 : column < 20 ? 459 : 482;
         if (column % 3 == 0) page.copy(left + 28, noteTop - 3, QRect(470, 35, 8, 9), Raster::And);
         page.copy(left + 37, noteTop - 13, QRect(head, 2, 14, 18), Raster::And);
@@ -223,8 +230,8 @@ void drawStrip(MockPage& page) {
     constexpr std::array<int, 12> marks{57, 85, 113, 141, 225, 337, 169, 197, 281, 309, 29, 253};
     for (int index = 0; index < 12; ++index) {
         const int left = columnWidth * (2 * index + 1);
-        page.copy(left + 37, 130 - 13, QRect(445, 2, 14, 18), Raster::And);
-        page.stretch(QRect(left + 49, 130 - 13, 24, 12),
+        page.copy(left + 37, 131 - 13, QRect(445, 2, 14, 18), Raster::And);
+        page.stretch(QRect(left + 49, 131 - 13, 24, 12),
                      QRect(marks[static_cast<std::size_t>(index)], 107, 26, 12), Raster::And);
     }
 }
@@ -234,7 +241,8 @@ void drawStrip(MockPage& page) {
 QImage previewPage(const QImage& sheetImage, int scale) {
     MockPage page(sheetImage, scale);
     drawStrip(page);
-    for (int row = 0; row < pageRows; ++row) drawStaff(page, row);
+    for (int row = 0; row < pageRows; ++row)
+        drawStaff(page, row);
     drawNumberRow(page);
     drawTechniqueRow(page);
     drawBendRow(page);

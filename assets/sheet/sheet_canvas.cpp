@@ -38,9 +38,9 @@ void drawStringLine(QPainter& painter, int row, int left, int width) {
     painter.fillRect(QRect(left, row, width, 1), stringGrey);
 }
 
-void strokePath(QPainter& painter, const QPainterPath& path, double width) {
+void strokePath(QPainter& painter, const QPainterPath& path, double width, Qt::PenCapStyle ends) {
     QPen pen(ink, width);
-    pen.setCapStyle(Qt::SquareCap);
+    pen.setCapStyle(ends);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.strokePath(path, pen);
 }

@@ -46,7 +46,8 @@ void drawPixels(QPainter& painter, const QPoint& at, const PixelRows& rows);
 // A row of the string line, one unit high, from left to right edge of a cell of the given width.
 void drawStringLine(QPainter& painter, int row, int left, int width);
 
-// A path in ink with square ends, for the parts of glyphs and marks that keep one width.
-void strokePath(QPainter& painter, const QPainterPath& path, double width);
+// A path in ink, for the parts of glyphs and marks that keep one width.
+void strokePath(QPainter& painter, const QPainterPath& path, double width,
+                Qt::PenCapStyle ends = Qt::SquareCap);
 
 } // namespace sheet

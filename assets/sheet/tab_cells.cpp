@@ -94,7 +94,8 @@ void drawStaffPieces(SheetCanvas& canvas) {
     canvas.paint(QRect(3, 24, 20, staffHeight), [](QPainter& painter) {
         painter.fillRect(QRect(0, 0, 2, staffHeight), ink);
         for (int string = 0; string < stringCount; ++string)
-            for (const int x : dottedColumns) drawStringLine(painter, string * stringPitch, x, 1);
+            for (const int x : dottedColumns)
+                drawStringLine(painter, string * stringPitch, x, 1);
     });
     canvas.paint(QRect(33, 24, 30, staffHeight), [](QPainter& painter) {
         for (int string = 0; string < stringCount; ++string)
@@ -108,25 +109,28 @@ void drawRepeats(SheetCanvas& canvas) {
         drawRepeatDots(painter, canvas.scale(), 7);
     });
     canvas.paint(QRect(340, 25, 12, 59), [&](QPainter& painter) {
-        drawThickThinBar(painter, 9, 7);
-        drawRepeatDots(painter, canvas.scale(), 2);
+        drawThickThinBar(painter, 8, 6);
+        drawRepeatDots(painter, canvas.scale(), 1);
     });
 }
 
 void drawNumberCells(SheetCanvas& canvas) {
-    for (int fret = 0; fret <= 29; ++fret) drawNumber(canvas, {1 + 10 * fret, 1}, fret);
-    for (int number = 30; number <= 46; ++number) drawNumber(canvas, {1 + 10 * (number - 30), 9}, number);
-    for (int count = 2; count <= 9; ++count) drawNumber(canvas, {188 + 10 * (count - 2), 54}, count);
-    for (int count = 10; count <= 16; ++count) drawNumber(canvas, {188 + 10 * (count - 10), 62}, count);
+    for (int fret = 0; fret <= 29; ++fret)
+        drawNumber(canvas, {1 + 10 * fret, 1}, fret);
+    for (int number = 30; number <= 46; ++number)
+        drawNumber(canvas, {1 + 10 * (number - 30), 9}, number);
+    for (int count = 2; count <= 9; ++count)
+        drawNumber(canvas, {188 + 10 * (count - 2), 54}, count);
+    for (int count = 10; count <= 16; ++count)
+        drawNumber(canvas, {188 + 10 * (count - 10), 62}, count);
 }
 
 void drawSignCells(SheetCanvas& canvas) {
     drawCross(canvas, {301, 1});
     drawCross(canvas, {258, 62});
     drawArrowHead(canvas, {171, 9});
-    canvas.paint(QRect({331, 1}, cellSize), [](QPainter& painter) {
-        drawStringLine(painter, stringRowOfCell, 0, cellSize.width());
-    });
+    canvas.paint(QRect({331, 1}, cellSize),
+                 [](QPainter& painter) { drawStringLine(painter, stringRowOfCell, 0, cellSize.width()); });
 }
 
 } // namespace sheet

@@ -24,6 +24,9 @@ void drawOpaqueMark(SheetCanvas& canvas, int left, DrawMark draw) {
     });
 }
 
+// Thickness of a slur where it begins and ends.
+constexpr double tipWeight = 0.5;
+
 // A slur: two curves between the same ends, the outer one rising to the given control height.
 void drawSlur(QPainter& painter, double foot, double outer, double inner) {
     QPainterPath path;
@@ -31,6 +34,7 @@ void drawSlur(QPainter& painter, double foot, double outer, double inner) {
     path.cubicTo(6, outer, 20, outer, 25.5, foot);
     path.cubicTo(20, inner, 6, inner, 0.5, foot);
     painter.fillPath(path, ink);
+    strokePath(painter, path, tipWeight);
 }
 
 void drawHammerArc(QPainter& painter) { drawSlur(painter, 6.5, -0.9, 1.3); }
@@ -51,15 +55,17 @@ void drawWave(QPainter& painter, double middle, double height, int periods, doub
         return QPointF(1 + 24 * along, middle - height * std::sin(2 * std::numbers::pi * periods * along));
     };
     QPainterPath path(waveAt(0) + QPointF(0, -weight / 2));
-    for (int step = 1; step <= steps; ++step) path.lineTo(waveAt(step) + QPointF(0, -weight / 2));
-    for (int step = steps; step >= 0; --step) path.lineTo(waveAt(step) + QPointF(0, weight / 2));
+    for (int step = 1; step <= steps; ++step)
+        path.lineTo(waveAt(step) + QPointF(0, -weight / 2));
+    for (int step = steps; step >= 0; --step)
+        path.lineTo(waveAt(step) + QPointF(0, weight / 2));
     path.closeSubpath();
     painter.fillPath(path, ink);
 }
 
-void drawVibrato(QPainter& painter) { drawWave(painter, 3.5, 1.5, 4, 1.9); }
+void drawVibrato(QPainter& painter) { drawWave(painter, 3.6, 1.4, 3, 1.7); }
 
-void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.4, 2.3, 2, 1.7); }
+void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.5, 2.5, 2, 1.8); }
 
 void drawDive(QPainter& painter) {
     QPainterPath path;
@@ -81,18 +87,21 @@ void drawRingedGhost(QPainter& painter) {
 void drawHairpin(QPainter& painter) {
     QPainterPath path;
     path.moveTo(24.5, 3.5);
-    path.lineTo(1.5, 7.5);
+    path.lineTo(3.5, 7.5);
     path.lineTo(24.5, 11.5);
     strokePath(painter, path, 1.1);
 }
 
 void drawTapArc(QPainter& painter) {
-    drawSlur(painter, 6.6, 2.2, 3.9);
+    drawSlur(painter, 6.6, 3.1, 4.8);
     QPainterPath caret;
-    caret.moveTo(10.5, 2.5);
-    caret.lineTo(13, 0.6);
-    caret.lineTo(15.5, 2.5);
-    strokePath(painter, caret, 1);
+    caret.moveTo(13, 0);
+    caret.lineTo(17.5, 3);
+    caret.lineTo(15.2, 3);
+    caret.lineTo(13, 1.5);
+    caret.lineTo(10.8, 3);
+    caret.lineTo(8.5, 3);
+    painter.fillPath(caret, ink);
 }
 
 void drawRingArrow(QPainter& painter) {
@@ -139,19 +148,20 @@ void drawStaccatoDot(SheetCanvas& canvas) {
 void drawLetters(SheetCanvas& canvas) {
     const int scale = canvas.scale();
     canvas.paint(markAt(197), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'H', {4, 0});
-        drawLetter(painter, scale, 'a', {10, 0});
+        drawLetter(painter, scale, 'H', {2, 0});
+        drawLetter(painter, scale, 'a', {8, 0});
     });
     canvas.paint(markAt(281), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'S', {4, 0});
-        drawLetter(painter, scale, '.', {10, 0});
+        drawLetter(painter, scale, 'S', {2, 0});
+        drawLetter(painter, scale, '.', {8, 0});
     });
     canvas.paint(markAt(309), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'P', {4, 0});
-        drawLetter(painter, scale, '.', {10, 0});
+        drawLetter(painter, scale, 'P', {2, 0});
+        drawLetter(painter, scale, '.', {8, 0});
     });
-    canvas.paint(QRect(448, 126, 10, 12),
-                 [scale](QPainter& painter) { drawDigit(painter, scale, '2', DigitWidth::Narrow, {3, 0}); });
+    canvas.paint(QRect(448, 126, 10, 12), [scale](QPainter& painter) {
+        drawDigit(painter, scale, '2', DigitWidth::Narrow, {4, 0});
+    });
 }
 
 } // namespace

@@ -1,0 +1,118 @@
+// The page's redraw against a memory copy of its pixels, one typed note, and the way from a key to the shown
+// image.
+#include "bench/large_document.h"
+#include "core/document_operations.h"
+#include "core/shell/frmMain.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include <chrono>
+#include <cstring>
+
+namespace tabrova {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr int PageWidth = 1920;
+constexpr int PageHeight = 1080;
+
+double nanoseconds(Clock::duration time) { return std::chrono::duration<double, std::nano>(time).count(); }
+
+// The best of several copies: the physical yardstick.
+double copyNanoseconds() {
+    std::vector<char> from(PageWidth * PageHeight * 4, 1), to(from.size(), 2);
+    double best = 1e12;
+    for (int run = 0; run < 40; ++run) {
+        const auto start = Clock::now();
+        std::memcpy(to.data(), from.data(), from.size());
+        benchmark::DoNotOptimize(to.data());
+        best = std::min(best, nanoseconds(Clock::now() - start));
+    }
+    return best;
+}
+
+// A whole program without a desktop.
+struct Program {
+    DesktopMessageBoxes boxes;
+    DesktopFileChooser files;
+    DesktopAddressOpener addresses;
+    MemorySettingsStore settings;
+    DesktopTextPrinter printer;
+    SilentMidiDevice midi;
+    TimerList timers;
+    Services services{boxes, files, addresses, settings, printer, midi, timers, {}, [] { std::abort(); }};
+    frmMain window{services};
+
+    Program() {
+        window.resizeClient(PageWidth, PageHeight);
+        window.Form_Load({}, frmMain::Splash::Never);
+        window.show();
+        QApplication::processEvents();
+    }
+};
+
+void FullRedraw(benchmark::State& state) {
+    Document document;
+    makeDenseDocument(document, static_cast<int>(state.range(0)));
+    TabView view;
+    view.picDocument.resize(PageWidth, PageHeight);
+    document.VisibleStaves = visibleStaves(PageHeight);
+    document.ColumnWidth = columnWidth(PageWidth);
+    for (auto _ : state) {
+        view.picDocument.Cls();
+        view.drawStaves(document);
+        benchmark::DoNotOptimize(view.picDocument.image().constBits());
+    }
+    const double copy = copyNanoseconds();
+    state.counters["times_copy"] =
+        benchmark::Counter(static_cast<double>(state.iterations()) * copy,
+                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    state.counters["times_copy"].value = static_cast<double>(state.iterations()) * copy / 1e9;
+}
+
+void WholeRefresh(benchmark::State& state) {
+    Program program;
+    makeDenseDocument(program.window.document(), 4096);
+    for (auto _ : state)
+        program.window.editor().refreshdrawing();
+    state.counters["copy_us"] = copyNanoseconds() / 1000.0;
+}
+
+void TypedNoteWithoutSound(benchmark::State& state) {
+    Program program;
+    program.window.document().RealtimeMode = 1;
+    for (auto _ : state)
+        program.window.editor().DrawAndStoreNote('7');
+}
+
+void KeyToImage(benchmark::State& state) {
+    Program program;
+    makeLargeDocument(program.window.document(), 4);
+    auto* page = program.window.findChild<QWidget*>("picDocument");
+    program.window.editor().refreshdrawing();
+    QApplication::processEvents();
+    for (auto _ : state) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
+        QApplication::sendEvent(page, &press);
+        QApplication::sendPostedEvents();
+        QApplication::processEvents();
+    }
+}
+
+BENCHMARK(FullRedraw)->Arg(12)->Arg(1)->Arg(4096)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WholeRefresh)->Unit(benchmark::kMicrosecond);
+BENCHMARK(TypedNoteWithoutSound)->Unit(benchmark::kMicrosecond);
+BENCHMARK(KeyToImage)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace tabrova
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}
