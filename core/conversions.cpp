@@ -112,7 +112,9 @@ std::optional<bool> toBoolean(std::string_view text) {
 
 std::string printedInteger(int value) {
     std::string digits = std::to_string(value);
-    return (value < 0 ? digits : " " + digits) + " ";
+    if (value >= 0) digits.insert(digits.begin(), ' ');
+    digits.push_back(' ');
+    return digits;
 }
 
 std::string_view printedBoolean(bool value) { return value ? "True" : "False"; }

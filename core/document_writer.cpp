@@ -55,9 +55,12 @@ int emptyCellsFrom(const CellColumn& column, int from, int rows) {
 void addColumn(FileText& text, const TextPool& pool, const CellColumn& column, int rows) {
     for (int row = 0; row < rows; ++row) {
         const int empty = emptyCellsFrom(column, row, rows);
-        text.addEmptyLines(static_cast<std::size_t>(empty));
         row += empty;
-        if (row < rows) text.addLine(pool.text(column.at(row)));
+        if (row < rows) {
+            text.addLine(static_cast<std::size_t>(empty), pool.text(column.at(row)));
+        } else {
+            text.addEmptyLines(static_cast<std::size_t>(empty));
+        }
     }
 }
 
@@ -98,12 +101,23 @@ FileText documentText(const Document& document) {
     return text;
 }
 
+// An old file is written over in its place and cut to the new length behind it: of all ways to replace its
+// content this one asks the disk for the least room, so that it fails the least. A write that fails cuts the
+// file where it came to. A file that can only be written, or is not there, is opened afresh.
 bool saveDocument(Document& document, const std::filesystem::path& path) {
     const FileText text = documentText(document);
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    std::error_code failed;
+    std::ofstream file(path, std::ios::binary | std::ios::in);
+    if (!file) file.open(path, std::ios::binary | std::ios::trunc);
     if (!file) return false;
     document.HasFileName = True16;
-    return text.writeTo(file);
+    const bool written = text.writeTo(file);
+    file.clear();
+    const auto end = file.tellp();
+    file.close();
+    if (end >= 0 && std::filesystem::is_regular_file(path, failed))
+        std::filesystem::resize_file(path, static_cast<std::uintmax_t>(end), failed);
+    return written && !failed;
 }
 
 } // namespace tabrova

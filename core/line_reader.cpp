@@ -53,7 +53,17 @@ std::string_view LineReader::takeLine(std::size_t length, std::size_t end) {
     return line;
 }
 
+// Most lines of a document are empty or hold one or two characters, too short to be worth a search.
+std::optional<std::string_view> LineReader::nextShort() {
+    if (endLength_ != 2 || size_ - at_ < 4) return std::nullopt;
+    const char* text = buffer_.data() + at_;
+    for (std::size_t length = 0; length <= 2; ++length)
+        if (text[length] == '\r' && text[length + 1] == '\n') return takeLine(length, endLength_);
+    return std::nullopt;
+}
+
 std::optional<std::string_view> LineReader::next() {
+    if (const auto line = nextShort()) return line;
     std::size_t searched = 0;
     for (;;) {
         const std::size_t found = findLineEnd(at_ + searched);

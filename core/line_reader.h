@@ -22,6 +22,7 @@ class LineReader {
 
   private:
     bool fill();
+    std::optional<std::string_view> nextShort();
     std::size_t findLineEnd(std::size_t from) const;
     std::string_view takeLine(std::size_t length, std::size_t end);
 

@@ -34,22 +34,39 @@ Rect scaled(const Rect& rect, int scale) {
     return {rect.left * scale, rect.top * scale, rect.width * scale, rect.height * scale};
 }
 
-// Stretches of a repeated row are common (a staff is one row of lines many times), so the columns' sources
-// are found once.
+// A stretch takes the same columns in every row, so their sources are found once.
 void sourceColumns(std::vector<int>& columns, const Rect& place, const Rect& source, Span span) {
     columns.resize(static_cast<std::size_t>(span.end - span.first));
-    for (int x = span.first; x < span.end; ++x)
-        columns[static_cast<std::size_t>(x - span.first)] =
-            source.left + static_cast<int>(static_cast<qint64>(x) * source.width / place.width);
+    const int whole = source.width / place.width;
+    const int part = source.width % place.width;
+    int at = static_cast<int>(static_cast<qint64>(span.first) * source.width / place.width);
+    int rest = static_cast<int>(static_cast<qint64>(span.first) * source.width % place.width);
+    for (int& column : columns) {
+        column = source.left + at;
+        at += whole;
+        rest += part;
+        if (rest >= place.width) {
+            rest -= place.width;
+            ++at;
+        }
+    }
 }
 
-void stretchRow(QRgb* to, const QRgb* from, const std::vector<int>& columns, Raster raster) {
-    if (raster == Raster::SrcCopy) {
-        for (std::size_t i = 0; i < columns.size(); ++i)
-            to[i] = from[columns[i]];
-    } else {
+bool isOneColor(const QRgb* pixels, int count) {
+    return count == 1 ||
+           std::memcmp(pixels, pixels + 1, static_cast<std::size_t>(count - 1) * sizeof(QRgb)) == 0;
+}
+
+void stretchRow(QRgb* to, const QRgb* from, const Rect& source, const std::vector<int>& columns,
+                Raster raster) {
+    if (raster == Raster::SrcAnd) {
         for (std::size_t i = 0; i < columns.size(); ++i)
             to[i] &= from[columns[i]];
+    } else if (isOneColor(from + source.left, source.width)) {
+        std::fill_n(to, columns.size(), from[source.left]);
+    } else {
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            to[i] = from[columns[i]];
     }
 }
 
@@ -119,7 +136,7 @@ void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect&
         const int sourceLine =
             piece.top + static_cast<int>(static_cast<qint64>(line) * piece.height / target.height);
         stretchRow(row(image, target.top + line) + target.left + xs.first, row(from.image(), sourceLine),
-                   columns, raster);
+                   piece, columns, raster);
     }
 }
 

@@ -142,6 +142,9 @@ frmAltSplash::frmAltSplash(QWidget* parent) : QDialog(parent) {
     setWindowModality(Qt::ApplicationModal);
     setFixedSize(PictureWidth, PictureHeight);
     setMouseTracking(true);
+    // The picture itself has the keyboard at first, so that nothing is highlighted.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     imgHighlight_ = new HighlightImage(this);
     imgHighlight_->hide();
     const int left = (PictureWidth - 4 * OptionSize - 3 * OptionGap) / 2;

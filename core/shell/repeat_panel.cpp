@@ -31,8 +31,19 @@ RepeatScroller::RepeatScroller(QWidget* parent) : QScrollBar(Qt::Horizontal, par
 }
 
 void RepeatScroller::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return entered();
-    QScrollBar::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return entered();
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return setValue(value() + 1);
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        return setValue(value() - 1);
+    default:
+        QScrollBar::keyPressEvent(event);
+    }
 }
 
 RepeatPanel::RepeatPanel(QWidget* parent) : QFrame(parent), scroller_(new RepeatScroller(this)) {
