@@ -1,0 +1,154 @@
+#include "core/cell_grid.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+
+namespace tabrova {
+namespace {
+
+TEST(CellGrid, KeepsIdsOfEveryWidth) {
+    CellGrid grid;
+    grid.resize(2, 10);
+    const TextId ids[] = {1, 255, 256, 65535, 65536, 0xFFFFFFFF, 7, 300, 2, 0};
+    for (int row = 0; row < 10; ++row) {
+        EXPECT_TRUE(grid.set(0, row, ids[row]));
+        for (int before = 0; before <= row; ++before)
+            EXPECT_EQ(grid.at(0, before), ids[before]);
+    }
+    EXPECT_EQ(grid.at(1, 3), EmptyText);
+    EXPECT_EQ(grid.column(1).width(), CellColumn::Width::Empty);
+}
+
+TEST(CellGrid, OutsideIsEmptyAndTakesNothing) {
+    CellGrid grid;
+    grid.resize(3, 6);
+    for (const auto& [column, row] : {std::pair{-1, 0}, {3, 0}, {0, -1}, {0, 6}, {100, 100}}) {
+        EXPECT_FALSE(grid.set(column, row, 5));
+        EXPECT_EQ(grid.at(column, row), EmptyText);
+    }
+}
+
+TEST(CellGrid, AColumnOfEmptyCellsOwnsNoMemory) {
+    CellGrid grid;
+    grid.resize(4, 6000);
+    grid.set(2, 5999, EmptyText);
+    EXPECT_EQ(grid.column(2).data(), nullptr);
+}
+
+TEST(CellGrid, ResizingKeepsWhatFitsAtItsPlace) {
+    CellGrid grid;
+    grid.resize(4, 6);
+    for (int column = 0; column < 4; ++column)
+        for (int row = 0; row < 6; ++row)
+            grid.set(column, row, static_cast<TextId>(column * 100 + row + 1));
+    grid.resize(6, 12);
+    EXPECT_EQ(grid.at(3, 5), 306u);
+    EXPECT_EQ(grid.at(3, 6), EmptyText);
+    EXPECT_EQ(grid.at(4, 0), EmptyText);
+    grid.resize(2, 3);
+    EXPECT_EQ(grid.at(1, 2), 103u);
+    grid.resize(4, 6);
+    EXPECT_EQ(grid.at(1, 2), 103u);
+    EXPECT_EQ(grid.at(1, 3), EmptyText);
+    EXPECT_EQ(grid.at(2, 0), EmptyText);
+    grid.resize(4, 0);
+    grid.resize(4, 6);
+    EXPECT_EQ(grid.at(1, 2), EmptyText);
+}
+
+TEST(CellGrid, ClearingIsCutToTheGrid) {
+    CellGrid grid;
+    grid.resize(4, 6);
+    for (int column = 0; column < 4; ++column)
+        for (int row = 0; row < 6; ++row)
+            grid.set(column, row, 9);
+    grid.clear(2, 100, 1, 2);
+    EXPECT_EQ(grid.at(1, 1), 9u);
+    EXPECT_EQ(grid.at(2, 0), 9u);
+    EXPECT_EQ(grid.at(2, 1), EmptyText);
+    EXPECT_EQ(grid.at(3, 2), EmptyText);
+    EXPECT_EQ(grid.at(3, 3), 9u);
+    grid.clear(-5, 6, -5, 100);
+    EXPECT_EQ(grid.at(0, 0), EmptyText);
+    EXPECT_EQ(grid.at(1, 0), 9u);
+}
+
+TEST(CellColumn, CopiesRowsBetweenWidths) {
+    CellColumn narrow, wide, none;
+    narrow.set(0, 3, 6);
+    narrow.set(5, 4, 6);
+    wide.set(0, 70000, 6);
+    wide.set(5, 80000, 6);
+    CellColumn target;
+    target.copyRows(wide, 0, 6, 6);
+    EXPECT_EQ(target.at(5), 80000u);
+    target.copyRows(narrow, 0, 3, 6);
+    EXPECT_EQ(target.at(0), 3u);
+    EXPECT_EQ(target.at(5), 80000u);
+    narrow.copyRows(wide, 5, 1, 6);
+    EXPECT_EQ(narrow.at(5), 80000u);
+    EXPECT_EQ(narrow.at(0), 3u);
+    target.copyRows(none, 0, 6, 6);
+    EXPECT_EQ(target.at(5), EmptyText);
+}
+
+TEST(CellGrid, RandomOperationsAgreeWithAMap) {
+    std::mt19937 random(7);
+    const auto choose = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    CellGrid grid;
+    std::map<std::pair<int, int>, TextId> model;
+    int columns = 8, rows = 12;
+    grid.resize(columns, rows);
+    for (int step = 0; step < 20000; ++step) {
+        const int act = choose(99);
+        if (act < 90) {
+            const int column = choose(columns + 1), row = choose(rows + 1);
+            const TextId id =
+                choose(2) == 0 ? 0u : static_cast<TextId>(choose(1) ? choose(300) : choose(200000));
+            EXPECT_EQ(grid.set(column, row, id), column < columns && row < rows);
+            if (column < columns && row < rows) model[{column, row}] = id;
+        } else if (act < 95) {
+            columns = choose(40);
+            rows = choose(30);
+            grid.resize(columns, rows);
+            std::erase_if(model, [&](const auto& cell) {
+                return cell.first.first >= columns || cell.first.second >= rows;
+            });
+        } else {
+            const int first = choose(10), count = choose(10), firstRow = choose(10), rowCount = choose(10);
+            grid.clear(first, count, firstRow, rowCount);
+            std::erase_if(model, [&](const auto& cell) {
+                const auto [column, row] = cell.first;
+                return column >= first && column < first + count && row >= firstRow &&
+                       row < firstRow + rowCount;
+            });
+        }
+        if (step % 100 != 0) continue;
+        for (int column = 0; column < columns; ++column)
+            for (int row = 0; row < rows; ++row) {
+                const auto found = model.find({column, row});
+                ASSERT_EQ(grid.at(column, row), found == model.end() ? 0u : found->second)
+                    << "after step " << step;
+            }
+    }
+}
+
+TEST(TextPool, GivesEachTextOneId) {
+    TextPool pool;
+    EXPECT_EQ(pool.intern(""), EmptyText);
+    EXPECT_EQ(pool.intern("17"), pool.intern("17"));
+    EXPECT_NE(pool.intern("17"), pool.intern("71"));
+    for (const std::string& text : {std::string("a"), std::string("ab"), std::string("abc"),
+                                    std::string(1, '\0'), std::string("a\0b", 3), std::string(100000, 'z')}) {
+        EXPECT_EQ(pool.text(pool.intern(text)), text);
+        EXPECT_EQ(pool.intern(text), pool.intern(text));
+    }
+    EXPECT_LT(pool.intern("b3.0"), 256u);
+    pool.clear();
+    EXPECT_EQ(pool.text(pool.intern("abc")), "abc");
+}
+
+} // namespace
+} // namespace tabrova
