@@ -10,8 +10,31 @@ namespace tabrova {
 namespace {
 
 Qt::Key keyOf(QChar character) {
-    return character.unicode() < 0x80 ? QTest::asciiToKey(character.toLatin1())
-                                      : static_cast<Qt::Key>(character.toUpper().unicode());
+    return character.unicode() >= 0x20 ? static_cast<Qt::Key>(character.toUpper().unicode())
+                                       : Qt::Key_unknown;
+}
+
+// What a key types, as a keyboard would send it; nothing with Control or Alt.
+QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    if (modifiers & (Qt::ControlModifier | Qt::AltModifier)) return {};
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return "\r";
+    case Qt::Key_Tab:
+        return "\t";
+    case Qt::Key_Backspace:
+        return "\b";
+    case Qt::Key_Delete:
+        return "\x7F";
+    case Qt::Key_Escape:
+        return "\x1B";
+    default:
+        break;
+    }
+    if (key < 0x20 || key > 0xFFFF) return {};
+    const QChar capital(static_cast<char16_t>(key));
+    return modifiers & Qt::ShiftModifier ? capital : capital.toLower();
 }
 
 // Which keys are held between two events.
@@ -37,7 +60,9 @@ void release(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
 bool pressKey(QWidget* widget, const QString& keyName) {
     const QKeySequence keys = QKeySequence::fromString(keyName, QKeySequence::PortableText);
     if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown) return false;
-    QTest::keyClick(widget, keys[0].key(), keys[0].keyboardModifiers());
+    const Qt::Key key = keys[0].key();
+    const Qt::KeyboardModifiers modifiers = keys[0].keyboardModifiers();
+    QTest::sendKeyEvent(QTest::Click, widget, key, textOf(key, modifiers), modifiers);
     return true;
 }
 

@@ -22,7 +22,7 @@ frmMain::frmMain(Services& services)
       commands_(document_, editor_, services, words_,
                 {[this](const QString& name) { return menu_->action(name)->isEnabled(); },
                  [this](const std::string& text) { setTrackPanel(text); },
-                 [this] { editor_.refreshdrawing(); }}) {
+                 [this] { showFileProperties(); }}) {
     setObjectName("frmMain");
     setWindowTitle("Tabrova - untitled.tr3");
     menu_ = std::make_unique<MainMenu>(*menuBar());
@@ -59,6 +59,7 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
                         services_.settings.GetSetting("Options", "ShowSplash", "1") == "1";
         if (splashWanted_) showSplash();
     }
+    focusPage();
 }
 
 // The options own the choice of the device; until a choice is stored the mapper serves.
@@ -67,6 +68,12 @@ void frmMain::openMidiDevice() {
     sound_.OpenMidiDevice(MidiMapperId);
     sound_.ProgramChange(0, StartProgram);
 }
+
+// The document's properties, when there is a window for them; its closing redraws.
+void frmMain::showFileProperties() { editor_.refreshdrawing(); }
+
+// The list of drums, when there is a window for it, on a percussion track.
+void frmMain::showPercussionEditor() {}
 
 void frmMain::ReportMidiError(int code) {
     services_.midi.errorText(code);
@@ -155,7 +162,7 @@ void frmMain::runSplashChoice(SplashChoice choice) {
     switch (choice) {
     case SplashChoice::NewTablature:
         editor_.MakeNewDocument();
-        editor_.refreshdrawing();
+        showFileProperties();
         break;
     case SplashChoice::OpenTablature:
         commands_.OpenDocNoConfirm(true);

@@ -76,6 +76,8 @@ class frmMain : public QMainWindow, private EditorHost {
     void chooseMode(bool powerChord);
     void connectPage();
     void openMidiDevice();
+    void showFileProperties();
+    void showPercussionEditor();
     void mnuViewNotation();
     void Form_Resize();
     void placePanels();

@@ -6,6 +6,7 @@
 #include "editing/key_codes.h"
 
 #include <QPainter>
+#include <QPushButton>
 #include <QWindow>
 
 namespace tabrova {
@@ -49,6 +50,10 @@ void frmMain::buildPanels() {
     trackChooser_ = new QFrame(client_);
     trackChooser_->setObjectName("picTrackChooser");
     trackChooser_->setFrameShape(QFrame::StyledPanel);
+    auto* Command1 = new QPushButton("Close", trackChooser_);
+    Command1->setObjectName("Command1");
+    Command1->move(8, layout_.picTrackChooser.height - 34);
+    connect(Command1, &QPushButton::clicked, this, [this] { closePanel(*trackChooser_); });
     auto* title = new QLabel("Track: Untitled Track", strip_);
     title->setObjectName("lblNotationTitle");
     title->setStyleSheet("color: #555555");
@@ -84,7 +89,9 @@ void frmMain::connectPage() {
     handlers.mouseDown = [this](int button, int x, int y) {
         editor_.picDocument_MouseDown(buttonOf(button), x, y);
     };
-    handlers.doubleClick = [] {};
+    handlers.doubleClick = [this] {
+        if (!document_.isGuitarTrack(document_.CurrentTrack)) showPercussionEditor();
+    };
     handlers.scrollBy = [this](int staves) { editor_.VScroll1_Change(editor_.scroll().value + staves); };
     handlers.scrollPageUp = [this] {
         editor_.VScroll1_Change(editor_.scroll().value - document_.VisibleStaves);

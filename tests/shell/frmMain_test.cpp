@@ -1,0 +1,122 @@
+// The main window by itself: what stands still during playback, and the sharpness of the page on finer
+// screens.
+#include "core/shell/frmMain.h"
+
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace tabrova {
+namespace {
+
+class MainWindow : public ::testing::Test {
+  protected:
+    MainWindow() {
+        window.resizeClient(1000, 700);
+        window.show();
+        window.Form_Load({}, frmMain::Splash::Never);
+    }
+
+    bool enabled(const char* name) { return window.menu().action(name)->isEnabled(); }
+
+    RecordingMessageBoxes boxes;
+    RecordingFileChooser files;
+    RecordingAddressOpener addresses;
+    MemorySettingsStore settings;
+    RecordingTextPrinter printer;
+    RecordingMidiDevice midi;
+    TimerList timers;
+    int ends = 0;
+    Services services{boxes, files, addresses, settings, printer, midi, timers, {}, [this] { ++ends; }};
+    frmMain window{services};
+};
+
+TEST_F(MainWindow, ToggleMenusHoldsTheEditorClosed) {
+    const char* const menus[] = {"mnuFile", "mnuEdit",  "mnuView",  "mnuStaff",
+                                 "mnuNote", "mnuTrack", "mnuTools", "mnuHelp"};
+    auto* page = window.findChild<QWidget*>("picDocument");
+    window.ToggleMenus(false);
+    for (const char* menu : menus)
+        EXPECT_FALSE(enabled(menu)) << menu;
+    EXPECT_TRUE(enabled("mnuSound"));
+    for (const char* name : {"picDocument", "picFretboard", "VScroll1", "StatusBar1"})
+        EXPECT_FALSE(window.findChild<QWidget*>(name)->isEnabled()) << name;
+    for (const QToolButton* button : window.findChild<QWidget*>("Toolbar1")->findChildren<QToolButton*>())
+        EXPECT_FALSE(button->isEnabled());
+    window.clientArea()->setFocus();
+    window.ToggleMenus(true);
+    for (const char* menu : menus)
+        EXPECT_TRUE(enabled(menu)) << menu;
+    EXPECT_TRUE(page->isEnabled());
+    EXPECT_EQ(window.focusWidget(), page);
+}
+
+TEST_F(MainWindow, ADisabledPageTakesNoKeys) {
+    window.ToggleMenus(false);
+    QTest::keyClick(window.findChild<QWidget*>("picDocument"), Qt::Key_7);
+    EXPECT_EQ(window.document().note(0, 0), "");
+}
+
+TEST_F(MainWindow, AFailingDeviceEndsTheProgram) {
+    midi.setFailing(RecordingMidiDevice::Operation::Send, true);
+    window.editor().DrawAndStoreNote('5');
+    EXPECT_GT(ends, 0);
+    EXPECT_EQ(boxes.take().first().box.title, "Error: Sound Card Unavailable");
+}
+
+TEST_F(MainWindow, ItemsWithoutACommandAreDisabled) {
+    EXPECT_FALSE(enabled("mnuChordManager"));
+    EXPECT_FALSE(enabled("mnuVirtualFretboard"));
+    EXPECT_TRUE(enabled("mnuFileSave"));
+    EXPECT_TRUE(enabled("mnuNoteRemoveBar"));
+}
+
+TEST_F(MainWindow, TheModesExcludeEachOtherAndIntelligentStandsAlone) {
+    MainMenu& menu = window.menu();
+    menu.action("mnuCCP")->trigger();
+    menu.action("mnuCCP")->trigger();
+    EXPECT_TRUE(menu.isChecked("mnuCCP"));
+    EXPECT_FALSE(menu.isChecked("mnuStandard"));
+    EXPECT_TRUE(window.editor().modes.powerChord);
+    menu.action("mnuIntelligent")->trigger();
+    menu.action("mnuStandard")->trigger();
+    EXPECT_TRUE(menu.isChecked("mnuStandard"));
+    EXPECT_FALSE(menu.isChecked("mnuCCP"));
+    EXPECT_TRUE(window.editor().modes.intelligent);
+    menu.action("mnuIntelligent")->trigger();
+    EXPECT_FALSE(window.editor().modes.intelligent);
+}
+
+TEST_F(MainWindow, TheNotationCannotBeOpenedOnAPercussionTrackButClosed) {
+    MainMenu& menu = window.menu();
+    window.document().GuitarTrackFlags[0] = False16;
+    menu.action("mnuViewNotation")->trigger();
+    EXPECT_FALSE(window.layoutOfPanels().stripShown);
+    menu.action("mnuViewNotation")->trigger();
+    EXPECT_FALSE(window.layoutOfPanels().stripShown);
+    EXPECT_FALSE(menu.isChecked("mnuViewNotation"));
+}
+
+TEST_F(MainWindow, ThePagesPixelsReachTheScreenUnchanged) {
+    window.editor().page().nCursor.left = 5000;
+    window.editor().DrawAndStoreNote('7');
+    window.editor().refreshdrawing();
+    window.editor().page().nCursor.left = 5000;
+    auto* page = window.findChild<QWidget*>("picDocument");
+    const QImage seen = page->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(seen, window.view().picDocument.image());
+}
+
+TEST_F(MainWindow, TheWheelScrollsByStaves) {
+    for (int staff = 0; staff < 9; ++staff)
+        window.editor().AppendStaff();
+    auto* page = window.findChild<QWidget*>("picDocument");
+    QWheelEvent down({50, 50}, page->mapToGlobal(QPointF(50, 50)), {}, {0, -240}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(page, &down);
+    EXPECT_EQ(window.document().TopStaff, 2);
+}
+
+} // namespace
+} // namespace tabrova
