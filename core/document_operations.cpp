@@ -78,6 +78,16 @@ bool growByOneStaff(Document& document) {
     return true;
 }
 
+void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4,
+                  std::int16_t s5, std::int16_t s6) {
+    int row = document.CurrentTrack * StringsPerTrack;
+    for (const std::int16_t value : {s1, s2, s3, s4, s5, s6}) {
+        --row;
+        if (row >= 0 && row < static_cast<int>(document.TuningTable.size()))
+            document.TuningTable[static_cast<std::size_t>(row)] = value;
+    }
+}
+
 void GetCurrentXPosition(Document& document) {
     document.CurrentColumn =
         document.CurrentStaff * ColumnsPerStaff - ColumnsPerStaff + document.ColumnInStaff;

@@ -16,6 +16,11 @@ bool ResizeGrids(Document& document, std::int32_t columns, std::int32_t rows);
 // One empty staff more at the end. False if the document cannot grow.
 bool growByOneStaff(Document& document);
 
+// The current track's six entries of TuningTable: s1 is the lowest string, s6 the highest. Entries that the
+// table does not have are passed over.
+void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4,
+                  std::int16_t s5, std::int16_t s6);
+
 // CurrentColumn follows the cursor's staff and its column in the staff.
 void GetCurrentXPosition(Document& document);
 

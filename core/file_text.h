@@ -1,5 +1,5 @@
-// The text of a file, put together in memory before the file is touched. Long runs of empty lines, which make up most
-// of a document, are counted instead of kept.
+// The text of a file, put together in memory before the file is touched. Long runs of empty lines, which make
+// up most of a document, are counted instead of kept.
 #pragma once
 
 #include <memory>

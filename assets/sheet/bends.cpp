@@ -3,6 +3,7 @@
 
 #include "glyphs.h"
 
+#include <algorithm>
 #include <array>
 
 namespace sheet {
@@ -21,34 +22,41 @@ struct Bend {
     int arrowColumn; // column of shaft and head
     double startRow; // height of the curve's start
     double tipRow;   // where the head's point ends
-    int textRow;     // first of the seven rows of the size
+    int textRow;     // first row of the size: seven rows for a number, five for a fraction alone
 };
 
+// Strings cross the downward sprites in rows 3, 13 and 23, and the upward ones in row 7, in rows 9 and 19, or
+// in rows 3, 13 and 23. The sizes keep between them; only the two longest downward ones can't.
 const std::array<Bend, 12> bends{{
-    {{425, 58, 10, 17}, Direction::Down, 1, 0, 5, 3.5, 9.5, 10},
-    {{437, 58, 12, 28}, Direction::Down, 2, 0, 5, 3.5, 14, 15},
-    {{451, 57, 13, 32}, Direction::Down, 3, 0, 6, 3.5, 21, 22},
-    {{464, 57, 14, 32}, Direction::Down, 4, 0, 5, 3.5, 21, 22},
+    {{425, 58, 10, 17}, Direction::Down, 1, 0, 5, 3.5, 7.8, 8},
+    {{437, 58, 12, 28}, Direction::Down, 2, 0, 5, 3.5, 13, 14},
+    {{451, 57, 13, 32}, Direction::Down, 3, 0, 6, 3.5, 14, 15},
+    {{464, 57, 14, 32}, Direction::Down, 4, 0, 6, 3.5, 15, 16},
     {{480, 57, 14, 32}, Direction::Down, 5, 0, 6, 3.5, 21, 22},
-    {{493, 57, 14, 32}, Direction::Down, 6, 1, 6, 3.5, 21, 22},
-    {{423, 101, 10, 17}, Direction::Up, 1, 0, 5, 16.5, 7.5, 0},
-    {{435, 90, 12, 28}, Direction::Up, 2, 0, 5, 27.5, 8, 0},
-    {{448, 86, 13, 32}, Direction::Up, 3, 0, 6, 31.5, 12, 4},
-    {{461, 86, 14, 32}, Direction::Up, 4, 0, 5, 31.5, 12, 4},
+    {{493, 57, 14, 32}, Direction::Down, 6, 1, 7, 3.5, 21, 22},
+    {{423, 101, 10, 17}, Direction::Up, 1, 0, 5, 16.5, 7, 1},
+    {{435, 90, 12, 28}, Direction::Up, 2, 0, 5, 27.5, 9, 1},
+    {{448, 86, 13, 32}, Direction::Up, 3, 0, 6, 31.5, 13.5, 6},
+    {{461, 86, 14, 32}, Direction::Up, 4, 0, 6, 31.5, 12.5, 5},
     {{476, 86, 14, 32}, Direction::Up, 5, 0, 6, 31.5, 12, 4},
-    {{490, 86, 14, 32}, Direction::Up, 6, 0, 5, 31.5, 12, 4},
+    {{490, 86, 14, 32}, Direction::Up, 6, 0, 6, 31.5, 11.5, 4},
 }};
 
 constexpr double headLength = 4.5;
+constexpr double turnHeight = 5;
 
+// Away from the string in a short bend, then straight along one column, which keeps the shaft sharp.
 void drawCurve(QPainter& painter, const Bend& bend) {
     const double back = bend.direction == Direction::Down ? -headLength : headLength;
     const double middle = bend.arrowColumn + 0.5;
     const double neck = bend.tipRow + back * 0.8;
+    const double turn = std::clamp(neck - bend.startRow, -turnHeight, turnHeight);
     QPainterPath path;
     path.moveTo(bend.startColumn + 0.5, bend.startRow);
-    path.cubicTo(middle, bend.startRow, middle, bend.startRow + (neck - bend.startRow) * 0.35, middle, neck);
-    strokePath(painter, path, 1);
+    path.cubicTo(middle - 0.5, bend.startRow, middle, bend.startRow + turn * 0.2, middle,
+                 bend.startRow + turn);
+    path.lineTo(middle, neck);
+    strokePath(painter, path, 1, Qt::FlatCap);
 }
 
 void drawHead(QPainter& painter, const Bend& bend) {
@@ -66,21 +74,21 @@ void drawSize(QPainter& painter, int scale, const Bend& bend) {
     const int whole = bend.halves / 2;
     const bool withHalf = bend.halves % 2 == 1;
     const auto digit = static_cast<char>('0' + whole);
-    if (!withHalf) {
-        drawDigit(painter, scale, digit, DigitWidth::Wide, {bend.arrowColumn - 2, bend.textRow});
+    if (whole == 0) {
+        drawLoneHalf(painter, scale, {1, bend.textRow});
         return;
     }
+    const int wholeLeft = withHalf ? 0 : bend.arrowColumn - 2;
+    drawDigit(painter, scale, digit, DigitSize::Narrow, {wholeLeft, bend.textRow});
     // The narrow one ends a column before its cell does, so the fraction moves up to it.
-    const int halfLeft = whole == 0 ? 1 : whole == 1 ? 4 : 5;
-    if (whole > 0) drawDigit(painter, scale, digit, DigitWidth::Narrow, {0, bend.textRow});
-    drawHalf(painter, scale, {halfLeft, bend.textRow});
+    if (withHalf) drawHalf(painter, scale, {whole == 1 ? 4 : 5, bend.textRow});
 }
 
 } // namespace
 
 void drawBends(SheetCanvas& canvas) {
     for (const Bend& bend : bends) {
-        canvas.paint(bend.cell, [&](QPainter& painter) {
+        canvas.paint(bend.cell, Copying::And, [&](QPainter& painter) {
             drawCurve(painter, bend);
             drawHead(painter, bend);
             drawSize(painter, canvas.scale(), bend);

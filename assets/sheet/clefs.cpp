@@ -21,11 +21,12 @@ struct PenPoint {
     double width;
 };
 
-constexpr std::array<PenPoint, 20> trebleTrack{{
+constexpr std::array<PenPoint, 21> trebleTrack{{
     {1.22, 0.42, 0.12},  {0.88, 0.05, 0.20},  {1.08, -0.48, 0.30}, {1.62, -0.62, 0.42}, {2.14, -0.05, 0.46},
     {1.98, 0.66, 0.34},  {1.38, 0.98, 0.22},  {0.62, 0.76, 0.34},  {0.24, 0.06, 0.46},  {0.36, -0.78, 0.46},
     {0.92, -1.68, 0.40}, {1.56, -2.50, 0.38}, {1.92, -3.34, 0.36}, {1.84, -4.10, 0.24}, {1.56, -4.36, 0.16},
-    {1.18, -3.70, 0.18}, {1.20, -2.70, 0.22}, {1.66, 0.60, 0.22},  {1.76, 1.90, 0.22},  {1.36, 2.52, 0.20},
+    {1.18, -3.70, 0.18}, {1.20, -2.70, 0.22}, {1.66, 0.60, 0.22},  {1.78, 1.86, 0.22},  {1.46, 2.50, 0.20},
+    {0.98, 2.56, 0.14},
 }};
 
 constexpr std::array<PenPoint, 8> bassTrack{{
@@ -106,7 +107,7 @@ void drawTrebleClef(QPainter& painter, const QPointF& place) {
     painter.save();
     beginClef(painter, place);
     painter.drawPath(outlineOf(trebleTrack));
-    drawDot(painter, 1.02, 2.24, 0.36);
+    drawDot(painter, 0.98, 2.24, 0.38);
     painter.restore();
 }
 

@@ -34,8 +34,17 @@ const std::array<PixelRows, 10> narrowDigits{{
     {".##.", "#..#", "#..#", ".###", "...#", "...#", ".##."},
 }};
 
-const PixelRows halfPixels{".#...#..", "##...#..", ".#..#...", ".#..###.",
-                           "...#...#", "...#.##.", "..#.####"};
+// '1' to '3'.
+const std::array<PixelRows, 3> smallDigits{{
+    {".#.", "##.", ".#.", ".#.", "###"},
+    {"##.", "..#", ".#.", "#..", "###"},
+    {"##.", "..#", ".#.", "..#", "##."},
+}};
+
+const PixelRows halfPixels{".#...#..", "##..#...", ".#..#...", ".#.#.##.",
+                           "...#...#", "..#...#.", "..#..###"};
+
+const PixelRows loneHalfPixels{".#..#.##.", "##..#...#", ".#..#..#.", ".#.#..#..", ".#.#..###"};
 
 QPainterPath bowl(double left, double top, double right, double bottom) {
     const double radius = std::min(right - left, bottom - top) / 2;
@@ -153,68 +162,87 @@ void strokeGlyph(QPainter& painter, const QPainterPath& strokes, const QPoint& a
 PixelRows pixelsOfLetter(char letter) {
     switch (letter) {
     case 'H':
-        return {"#...#", "#...#", "#...#", "#####", "#...#", "#...#", "#...#"};
+        return {"#..#", "#..#", "####", "#..#", "#..#", "#..#"};
     case 'a':
-        return {"....", "....", ".##.", "...#", ".###", "#..#", ".###"};
+        return {"....", "....", ".###", "#..#", "#..#", ".###"};
     case 'S':
-        return {".###.", "#...#", "#....", ".###.", "....#", "#...#", ".###."};
+        return {".###", "#...", ".#..", "..#.", "...#", "###."};
     case 'P':
-        return {"####.", "#...#", "#...#", "####.", "#....", "#....", "#...."};
+        return {"###.", "#..#", "#..#", "###.", "#...", "#..."};
     default:
-        return {"..", "..", "..", "..", "..", "##", "##"};
+        return {"..", "..", "..", "..", "##", "##"};
     }
 }
 
 QPainterPath strokesOfA() {
-    QPainterPath path;
-    path.moveTo(0.4, 2.2);
-    path.cubicTo(1.6, 1.7, 3, 1.7, 3, 3.4);
-    path.lineTo(3, 6);
-    path.addPath(bowl(0, 3.8, 3, 6));
+    QPainterPath path = bowl(0, 2, 3, 5);
+    path.moveTo(3, 2);
+    path.lineTo(3, 5);
     return path;
 }
 
 QPainterPath strokesOfS() {
     QPainterPath path;
-    path.moveTo(4, 1.2);
-    path.cubicTo(3.6, -0.5, 0, -0.5, 0, 1.5);
-    path.cubicTo(0, 3.4, 4, 2.6, 4, 4.5);
-    path.cubicTo(4, 6.5, 0.3, 6.5, 0, 4.8);
+    path.moveTo(3.1, 0.8);
+    path.cubicTo(2.4, -0.4, 0, -0.3, 0, 1.3);
+    path.cubicTo(0, 2.9, 3.1, 2.1, 3.1, 3.8);
+    path.cubicTo(3.1, 5.4, 0.6, 5.4, -0.1, 4.2);
     return path;
 }
 
 QPainterPath strokesOfP() {
     QPainterPath path;
-    path.moveTo(0, 6);
+    path.moveTo(0, 5);
     path.lineTo(0, 0);
-    path.lineTo(2.4, 0);
-    path.cubicTo(4.5, 0, 4.5, 3.5, 2.4, 3.5);
-    path.lineTo(0, 3.5);
+    path.lineTo(1.6, 0);
+    path.cubicTo(3.5, 0, 3.5, 3, 1.6, 3);
+    path.lineTo(0, 3);
     return path;
 }
 
 QPainterPath strokesOfH() {
     QPainterPath path;
     path.moveTo(0, 0);
-    path.lineTo(0, 6);
-    path.moveTo(4, 0);
-    path.lineTo(4, 6);
-    path.moveTo(0, 3);
-    path.lineTo(4, 3);
+    path.lineTo(0, 5);
+    path.moveTo(3, 0);
+    path.lineTo(3, 5);
+    path.moveTo(0, 2.5);
+    path.lineTo(3, 2.5);
     return path;
+}
+
+const PixelRows& pixelsOfDigit(char digit, DigitSize size) {
+    const auto value = static_cast<std::size_t>(digit - '0');
+    switch (size) {
+    case DigitSize::Wide:
+        return wideDigits[value];
+    case DigitSize::Narrow:
+        return narrowDigits[value];
+    default:
+        return smallDigits[value - 1];
+    }
+}
+
+// The strokes of a small digit are those of a large one, pressed together before the pen follows them.
+void strokeSmallDigit(QPainter& painter, char digit, const QPoint& at) {
+    const QPainterPath strokes = QTransform::fromScale(1, 4.0 / 6).map(strokesOfDigit(digit, 2));
+    strokeGlyph(painter, strokes, at, 0.9, Qt::FlatCap);
 }
 
 } // namespace
 
-void drawDigit(QPainter& painter, int scale, char digit, DigitWidth width, const QPoint& at) {
-    const auto index = static_cast<std::size_t>(digit - '0');
+void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const QPoint& at) {
     if (scale == 1) {
-        drawPixels(painter, at, width == DigitWidth::Wide ? wideDigits[index] : narrowDigits[index]);
+        drawPixels(painter, at, pixelsOfDigit(digit, size));
+        return;
+    }
+    if (size == DigitSize::Small) {
+        strokeSmallDigit(painter, digit, at);
         return;
     }
     // Longer ends would close the open sides of the three, and make an eight of it.
     const Qt::PenCapStyle ends = digit == '3' ? Qt::FlatCap : Qt::SquareCap;
-    strokeGlyph(painter, strokesOfDigit(digit, static_cast<int>(width) - 1), at, 1, ends);
+    strokeGlyph(painter, strokesOfDigit(digit, size == DigitSize::Wide ? 4 : 3), at, 1, ends);
 }
 
 void drawHalf(QPainter& painter, int scale, const QPoint& at) {
@@ -222,7 +250,6 @@ void drawHalf(QPainter& painter, int scale, const QPoint& at) {
         drawPixels(painter, at, halfPixels);
         return;
     }
-    const double thin = 0.75;
     QPainterPath path;
     path.moveTo(1, 2.9);
     path.lineTo(1, 0);
@@ -230,13 +257,24 @@ void drawHalf(QPainter& painter, int scale, const QPoint& at) {
     path.lineTo(0.7, 0.3);
     path.moveTo(5, 0);
     path.lineTo(2.2, 6);
-    strokeGlyph(painter, path, at, thin);
-    QPainterPath two;
-    two.moveTo(4.6, 3.9);
-    two.cubicTo(4.8, 2.6, 7, 2.6, 7, 4.0);
-    two.cubicTo(7, 4.8, 4.8, 5.2, 4.6, 6);
-    two.lineTo(7, 6);
-    strokeGlyph(painter, two, at, thin);
+    path.moveTo(4.6, 3.9);
+    path.cubicTo(4.8, 2.6, 7, 2.6, 7, 4.0);
+    path.cubicTo(7, 4.8, 4.8, 5.2, 4.6, 6);
+    path.lineTo(7, 6);
+    strokeGlyph(painter, path, at, 0.8);
+}
+
+void drawLoneHalf(QPainter& painter, int scale, const QPoint& at) {
+    if (scale == 1) {
+        drawPixels(painter, at, loneHalfPixels);
+        return;
+    }
+    QPainterPath slash;
+    slash.moveTo(4.4, -0.4);
+    slash.lineTo(2.9, 4.4);
+    strokeGlyph(painter, slash, at, 0.7, Qt::FlatCap);
+    strokeSmallDigit(painter, '1', at - QPoint(1, 0));
+    strokeSmallDigit(painter, '2', at + QPoint(6, 0));
 }
 
 void drawLetter(QPainter& painter, int scale, char letter, const QPoint& at) {

@@ -8,19 +8,17 @@
 
 namespace sheet {
 
-// Height of every number and letter, in logical pixels.
-inline constexpr int glyphHeight = 7;
-
-enum class DigitWidth { Wide = 5, Narrow = 4 };
+// In logical pixels: 5 by 7, 4 by 7 and 3 by 5. There is a small '1', '2' and '3' only.
+enum class DigitSize { Wide, Narrow, Small };
 
 // Draws one digit '0' to '9' with its left upper corner at the given place.
-void drawDigit(QPainter& painter, int scale, char digit, DigitWidth width, const QPoint& at);
+void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const QPoint& at);
 
-// One half, eight wide.
-inline constexpr int halfWidth = 8;
+// One half behind a number, 8 by 7, and one half on its own, small on one line, 9 by 5.
 void drawHalf(QPainter& painter, int scale, const QPoint& at);
+void drawLoneHalf(QPainter& painter, int scale, const QPoint& at);
 
-// 'H', 'a', 'S' and 'P' as the marks of the techniques use them, and a full stop two wide.
+// 'H', 'a', 'S' and 'P' as the marks of the techniques use them, 4 by 6, and a full stop two wide.
 void drawLetter(QPainter& painter, int scale, char letter, const QPoint& at);
 
 } // namespace sheet

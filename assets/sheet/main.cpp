@@ -1,6 +1,6 @@
 // make_sheet OUTDIR writes picSource in its three sizes.
-// make_sheet --preview FILE.png SCALE writes a mock page, for looking at the drawings; at scale 1
-// also FILE-enlarged.png, every pixel four by four.
+// make_sheet --preview FILE.png SCALE writes a mock page, for looking at the drawings, and as FILE-narrow.png
+// one of narrow columns; at scale 1 also both enlarged, every pixel four by four.
 #include "bends.h"
 #include "notation.h"
 #include "preview.h"
@@ -17,6 +17,13 @@
 namespace {
 
 constexpr int enlargement = 4;
+constexpr int usualColumnWidth = 29;
+constexpr int narrowColumnWidth = 20;
+
+void warnOfOverlap(const QRect& place, int scale) {
+    std::fprintf(stderr, "make_sheet: two drawings meet at (%d,%d) of scale %d\n", place.left(), place.top(),
+                 scale);
+}
 
 QImage drawSheet(int scale) {
     sheet::SheetCanvas canvas(scale);
@@ -31,6 +38,8 @@ QImage drawSheet(int scale) {
     sheet::drawHeads(canvas);
     sheet::drawSharp(canvas);
     sheet::drawRhythm(canvas);
+    const QRect overlap = canvas.inkInOverlap();
+    if (!overlap.isEmpty()) warnOfOverlap(overlap, scale);
     return canvas.image().convertToFormat(QImage::Format_RGB888);
 }
 
@@ -50,17 +59,26 @@ int writeSheets(const QDir& folder) {
     return 0;
 }
 
+QString withSuffix(const QString& path, const QString& suffix) {
+    return QString(path).replace(QStringLiteral(".png"), suffix + QStringLiteral(".png"));
+}
+
+bool savePreview(const QImage& page, const QString& path, int scale) {
+    if (!save(page, path)) return false;
+    if (scale > 1) return true;
+    return save(page.scaled(page.size() * enlargement), withSuffix(path, QStringLiteral("-enlarged")));
+}
+
 int writePreview(const QString& path, int scale) {
     if (scale < 1 || scale > 3) {
         std::fprintf(stderr, "make_sheet: the scale is 1, 2 or 3\n");
         return 2;
     }
-    const QImage page = sheet::previewPage(drawSheet(scale), scale);
-    if (!save(page, path)) return 1;
-    if (scale > 1) return 0;
-    const QString enlargedPath =
-        QString(path).replace(QStringLiteral(".png"), QStringLiteral("-enlarged.png"));
-    return save(page.scaled(page.size() * enlargement), enlargedPath) ? 0 : 1;
+    const QImage drawnSheet = drawSheet(scale);
+    const bool saved = savePreview(sheet::previewPage(drawnSheet, scale, usualColumnWidth), path, scale) &&
+                       savePreview(sheet::previewPage(drawnSheet, scale, narrowColumnWidth),
+                                   withSuffix(path, QStringLiteral("-narrow")), scale);
+    return saved ? 0 : 1;
 }
 
 } // namespace

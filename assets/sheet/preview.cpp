@@ -11,8 +11,6 @@ namespace sheet {
 
 namespace {
 
-constexpr int pageWidth = 988;
-constexpr int columnWidth = 29;
 constexpr int cursorWidth = 13;
 constexpr int stripHeight = 176;
 constexpr int pageRows = 4;
@@ -22,13 +20,15 @@ enum class Raster { Copy, And };
 
 class MockPage {
   public:
-    MockPage(const QImage& sheetImage, int scale)
-        : sheet_(sheetImage), scale_(scale),
-          page_(pageWidth * scale, pageHeight * scale, QImage::Format_RGB32) {
+    MockPage(const QImage& sheetImage, int scale, int columnWidth)
+        : sheet_(sheetImage), scale_(scale), columnWidth_(columnWidth),
+          page_(width() * scale, pageHeight * scale, QImage::Format_RGB32) {
         page_.fill(QColor(255, 254, 242));
-        fill(QRect(0, 0, pageWidth, stripHeight), Qt::white);
+        fill(QRect(0, 0, width(), stripHeight), Qt::white);
     }
 
+    int columnWidth() const { return columnWidth_; }
+    int width() const { return 32 * columnWidth_ + 60; }
     const QImage& image() const { return page_; }
 
     void fill(const QRect& place, const QColor& colour) {
@@ -58,6 +58,7 @@ class MockPage {
 
     const QImage& sheet_;
     int scale_;
+    int columnWidth_;
     QImage page_;
 };
 
@@ -66,17 +67,17 @@ int topOfRow(int row) { return stripHeight + 10 + row * 100; }
 void drawStaff(MockPage& page, int row) {
     const int top = topOfRow(row);
     page.copy(12, top + 30, QRect(3, 24, 20, 51), Raster::Copy);
-    page.stretch(QRect(22, top + 30, pageWidth - 34, 51), QRect(33, 24, 30, 51), Raster::Copy);
-    page.copy(pageWidth - 14, top + 30, QRect(3, 24, 2, 51), Raster::Copy);
+    page.stretch(QRect(22, top + 30, page.width() - 34, 51), QRect(33, 24, 30, 51), Raster::Copy);
+    page.copy(page.width() - 14, top + 30, QRect(3, 24, 2, 51), Raster::Copy);
 }
 
 void drawFret(MockPage& page, int row, int column, int string, int fret) {
-    page.copy(columnWidth * column + 24, topOfRow(row) + 10 * string + 26, QRect(1 + 10 * fret, 1, 9, 7),
-              Raster::Copy);
+    page.copy(page.columnWidth() * column + 24, topOfRow(row) + 10 * string + 26,
+              QRect(1 + 10 * fret, 1, 9, 7), Raster::Copy);
 }
 
 void drawCell(MockPage& page, int row, int column, int string, const QPoint& source) {
-    page.copy(columnWidth * column + 24, topOfRow(row) + 10 * string + 26, QRect(source, QSize(9, 7)),
+    page.copy(page.columnWidth() * column + 24, topOfRow(row) + 10 * string + 26, QRect(source, QSize(9, 7)),
               Raster::Copy);
 }
 
@@ -99,7 +100,7 @@ void drawMark(MockPage& page, int row, int column, int string, char code, int re
                                           {'l', 19, 281, false, Raster::And},
                                           {'o', 19, 309, false, Raster::And},
                                           {'r', 19, 337, true, Raster::And}}};
-    const int left = columnWidth * column;
+    const int left = page.columnWidth() * column;
     const int top = topOfRow(row) + 10 * string;
     if (code == '.') page.copy(left + 24 + cursorWidth, top + 29, QRect(30, 85, 4, 4), Raster::And);
     if (code == '2') page.copy(left + 19 + cursorWidth, top + 23, QRect(448, 126, 10, 12), Raster::And);
@@ -109,7 +110,7 @@ void drawMark(MockPage& page, int row, int column, int string, char code, int re
     }
     for (const Mark& mark : marks) {
         if (mark.code != code) continue;
-        const int width = mark.stretched ? columnWidth * reach - cursorWidth : 26;
+        const int width = mark.stretched ? page.columnWidth() * reach - cursorWidth : 26;
         page.stretch(QRect(left + mark.left + cursorWidth, top + 23, width, 12),
                      QRect(mark.sheetLeft, 107, 26, 12), mark.raster);
     }
@@ -125,20 +126,20 @@ void drawBend(MockPage& page, int row, int column, int string, int halves, bool 
     constexpr std::array<int, 6> upwardTops{13, 1, -3, -3, -3, -3};
     const auto index = static_cast<std::size_t>(halves - 1);
     const int offset = down ? 27 : upwardTops[index];
-    page.copy(columnWidth * column + 22 + cursorWidth, topOfRow(row) + 10 * string + offset,
+    page.copy(page.columnWidth() * column + 22 + cursorWidth, topOfRow(row) + 10 * string + offset,
               down ? downwards[index] : upwards[index], Raster::And);
 }
 
 void drawBar(MockPage& page, int row, int column) {
-    page.copy(columnWidth * column + 16, topOfRow(row) + 25, QRect(3, 19, 12, 59), Raster::And);
+    page.copy(page.columnWidth() * column + 16, topOfRow(row) + 25, QRect(3, 19, 12, 59), Raster::And);
 }
 
 void drawClosedRepeat(MockPage& page, int row, int column, int mark) {
     const int top = topOfRow(row);
     const QPoint count = mark <= 8 ? QPoint(188 + 10 * (mark - 1), 54) : QPoint(188 + 10 * (mark - 9), 62);
-    page.copy(columnWidth * column + 12, top + 25, QRect(340, 25, 12, 59), Raster::And);
-    page.copy(columnWidth * column + 6, top + 17, QRect(258, 62, 9, 7), Raster::And);
-    page.copy(columnWidth * column + 14, top + 17, QRect(count, QSize(9, 7)), Raster::And);
+    page.copy(page.columnWidth() * column + 12, top + 25, QRect(340, 25, 12, 59), Raster::And);
+    page.copy(page.columnWidth() * column + 6, top + 17, QRect(258, 62, 9, 7), Raster::And);
+    page.copy(page.columnWidth() * column + 14, top + 17, QRect(count, QSize(9, 7)), Raster::And);
 }
 
 void drawNumberRow(MockPage& page) {
@@ -154,7 +155,7 @@ void drawNumberRow(MockPage& page) {
 
 void drawTechniqueRow(MockPage& page) {
     const QString codes = QStringLiteral("hsvwd.gmftlor2");
-    page.copy(columnWidth * 0 + 8, topOfRow(1) + 25, QRect(323, 25, 12, 59), Raster::And);
+    page.copy(page.columnWidth() * 0 + 8, topOfRow(1) + 25, QRect(323, 25, 12, 59), Raster::And);
     for (int index = 0; index < codes.size(); ++index) {
         const int string = index % 3 * 2;
         drawFret(page, 1, index * 2, string, (index * 5) % 26);
@@ -190,11 +191,11 @@ void drawBendRow(MockPage& page) {
 
 void drawRhythm(MockPage& page, int column, int columns, int ladderTop, int ladderHeight) {
     const int top = topOfRow(3);
-    const int left = columnWidth * column;
+    const int left = page.columnWidth() * column;
     page.stretch(QRect(left + 27, top + 85, 1, 18), QRect(346, 0, 1, 18), Raster::Copy);
-    page.stretch(QRect(left + 28, top + 103 - ladderHeight, columns * columnWidth, ladderHeight),
+    page.stretch(QRect(left + 28, top + 103 - ladderHeight, columns * page.columnWidth(), ladderHeight),
                  QRect(347, ladderTop, 10, ladderHeight), Raster::And);
-    page.stretch(QRect(left + columns * columnWidth + 27, top + 85, 1, 18), QRect(346, 0, 1, 18),
+    page.stretch(QRect(left + columns * page.columnWidth() + 27, top + 85, 1, 18), QRect(346, 0, 1, 18),
                  Raster::And);
 }
 
@@ -207,16 +208,16 @@ void drawRhythmRow(MockPage& page) {
     drawRhythm(page, 6, 2, 10, 8);
     drawRhythm(page, 8, 4, 10, 5);
     drawRhythm(page, 16, 8, 10, 2);
-    page.copy(columnWidth * 25 + 28, topOfRow(3) + 104, QRect(421, 35, 5, 5), Raster::Copy);
+    page.copy(page.columnWidth() * 25 + 28, topOfRow(3) + 104, QRect(421, 35, 5, 5), Raster::Copy);
 }
 
 void drawStrip(MockPage& page) {
     page.copy(9, 30, QRect(596, 0, 45, 154), Raster::Copy);
-    page.stretch(QRect(39, 30, pageWidth - 50, 154), QRect(630, 0, 1, 154), Raster::Copy);
+    page.stretch(QRect(39, 30, page.width() - 50, 154), QRect(630, 0, 1, 154), Raster::Copy);
     constexpr std::array<int, 4> beams{11, 8, 5, 3};
     constexpr std::array<int, 8> heights{86, 89, 92, 83, 80, 77, 74, 95};
     for (int column = 0; column < 24; ++column) {
-        const int left = columnWidth * column;
+        const int left = page.columnWidth() * column;
         const int noteTop = heights[static_cast<std::size_t>(column % 8)];
         const int head = column < 16 ? 445 : column < 20 ? 459 : 482;
         if (column % 3 == 0) page.copy(left + 28, noteTop - 3, QRect(470, 35, 8, 9), Raster::And);
@@ -225,11 +226,12 @@ void drawStrip(MockPage& page) {
         page.fill(QRect(left + 44, 50, 1, noteTop - 50), ink);
         const int beam = beams[static_cast<std::size_t>(column / 4 % 4)];
         if (column % 4 != 3)
-            page.stretch(QRect(left + 44, 50, columnWidth, beam), QRect(365, 30, 1, beam), Raster::And);
+            page.stretch(QRect(left + 44, 50, page.columnWidth(), beam), QRect(365, 30, 1, beam),
+                         Raster::And);
     }
     constexpr std::array<int, 12> marks{57, 85, 113, 141, 225, 337, 169, 197, 281, 309, 29, 253};
     for (int index = 0; index < 12; ++index) {
-        const int left = columnWidth * (2 * index + 1);
+        const int left = page.columnWidth() * (2 * index + 1);
         page.copy(left + 37, 131 - 13, QRect(445, 2, 14, 18), Raster::And);
         page.stretch(QRect(left + 49, 131 - 13, 24, 12),
                      QRect(marks[static_cast<std::size_t>(index)], 107, 26, 12), Raster::And);
@@ -238,8 +240,8 @@ void drawStrip(MockPage& page) {
 
 } // namespace
 
-QImage previewPage(const QImage& sheetImage, int scale) {
-    MockPage page(sheetImage, scale);
+QImage previewPage(const QImage& sheetImage, int scale, int columnWidth) {
+    MockPage page(sheetImage, scale, columnWidth);
     drawStrip(page);
     for (int row = 0; row < pageRows; ++row)
         drawStaff(page, row);

@@ -5,7 +5,7 @@
 
 namespace sheet {
 
-// The sheet must have the given scale; the result has it too.
-QImage previewPage(const QImage& sheetImage, int scale);
+// The sheet must have the given scale; the result has it too. The column width is in logical pixels.
+QImage previewPage(const QImage& sheetImage, int scale, int columnWidth);
 
 } // namespace sheet

@@ -19,9 +19,14 @@ inline constexpr int sheetWidth = 657;
 inline constexpr int sheetHeight = 160;
 
 inline const QColor ink{0, 0, 0};
-inline const QColor stringGrey{150, 150, 150};
+inline const QColor softInk{128, 128, 128};
+inline const QColor stringGrey{144, 144, 144};
+inline const QColor staffLineGrey{128, 128, 128};
 
-// One string a row; '#' is ink, anything else is left alone.
+// How the page takes a cell: in place of what is there, or bit by bit with it.
+enum class Copying { Opaque, And };
+
+// One string a row; '#' is ink, '+' softens a corner, anything else is left alone.
 using PixelRows = std::vector<std::string_view>;
 
 class SheetCanvas {
@@ -33,11 +38,18 @@ class SheetCanvas {
 
     // Runs draw with a painter whose origin is the cell's top left corner and whose unit is one
     // logical pixel. What is drawn only darkens what the sheet already shows.
-    void paint(const QRect& cell, const std::function<void(QPainter&)>& draw);
+    void paint(const QRect& cell, Copying copying, const std::function<void(QPainter&)>& draw);
+
+    // The first place where two painted cells overlap and the sheet isn't blank; an empty rectangle
+    // if there is none. Such ink would show up in both.
+    QRect inkInOverlap() const;
 
   private:
+    bool isBlank(const QRect& place) const;
+
     int scale_;
     QImage image_;
+    std::vector<QRect> cells_;
 };
 
 // Square pixels of the painter's unit, the first one at the given place.

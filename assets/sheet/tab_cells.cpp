@@ -22,17 +22,29 @@ constexpr int stringRowOfCell = 4;
 // between the digits.
 constexpr std::array<int, 7> dottedColumns{3, 5, 7, 13, 15, 17, 19};
 
-void drawNumber(SheetCanvas& canvas, const QPoint& place, int number) {
-    canvas.paint(QRect(place, cellSize), [&](QPainter& painter) {
-        const auto units = static_cast<char>('0' + number % 10);
-        if (number < 10) {
-            drawDigit(painter, canvas.scale(), units, DigitWidth::Wide, {2, 0});
-            return;
-        }
-        const auto tens = static_cast<char>('0' + number / 10);
-        drawDigit(painter, canvas.scale(), tens, DigitWidth::Narrow, {0, 0});
-        drawDigit(painter, canvas.scale(), units, DigitWidth::Narrow, {5, 0});
-    });
+// A note's number stands in the middle of its cell; a repeat's count stands close to the small x.
+constexpr int noteIndent = 2;
+constexpr int countIndent = 1;
+
+void drawNumber(QPainter& painter, int scale, int number, int indent) {
+    const auto units = static_cast<char>('0' + number % 10);
+    if (number < 10) {
+        drawDigit(painter, scale, units, DigitSize::Wide, {indent, 0});
+        return;
+    }
+    const auto tens = static_cast<char>('0' + number / 10);
+    drawDigit(painter, scale, tens, DigitSize::Narrow, {0, 0});
+    drawDigit(painter, scale, units, DigitSize::Narrow, {5, 0});
+}
+
+void drawNoteNumber(SheetCanvas& canvas, const QPoint& place, int number) {
+    canvas.paint(QRect(place, cellSize), Copying::Opaque,
+                 [&](QPainter& painter) { drawNumber(painter, canvas.scale(), number, noteIndent); });
+}
+
+void drawCount(SheetCanvas& canvas, const QPoint& place, int count) {
+    canvas.paint(QRect(place, cellSize), Copying::And,
+                 [&](QPainter& painter) { drawNumber(painter, canvas.scale(), count, countIndent); });
 }
 
 QPainterPath crossOf(double left, double top, double size) {
@@ -44,8 +56,8 @@ QPainterPath crossOf(double left, double top, double size) {
     return path;
 }
 
-void drawCross(SheetCanvas& canvas, const QPoint& place) {
-    canvas.paint(QRect(place, cellSize), [&](QPainter& painter) {
+void drawCross(SheetCanvas& canvas, const QPoint& place, Copying copying) {
+    canvas.paint(QRect(place, cellSize), copying, [&](QPainter& painter) {
         if (canvas.scale() == 1)
             drawPixels(painter, {2, 1}, {"#...#", ".#.#.", "..#..", ".#.#.", "#...#"});
         else
@@ -54,7 +66,7 @@ void drawCross(SheetCanvas& canvas, const QPoint& place) {
 }
 
 void drawArrowHead(SheetCanvas& canvas, const QPoint& place) {
-    canvas.paint(QRect(place, cellSize), [&](QPainter& painter) {
+    canvas.paint(QRect(place, cellSize), Copying::Opaque, [&](QPainter& painter) {
         if (canvas.scale() == 1) {
             drawPixels(painter, {2, 0}, {"##...", "#.#..", "#..#.", "#...#", "#..#.", "#.#..", "##..."});
             return;
@@ -79,7 +91,7 @@ void drawRepeatDots(QPainter& painter, int scale, int left) {
     for (const int space : {1, 3}) {
         const int middleRow = 5 + space * stringPitch + stringPitch / 2;
         if (scale == 1) {
-            drawPixels(painter, {left, middleRow - 1}, {"###", "###", "###"});
+            drawPixels(painter, {left, middleRow - 1}, {"+#+", "###", "+#+"});
             continue;
         }
         painter.setPen(Qt::NoPen);
@@ -91,45 +103,46 @@ void drawRepeatDots(QPainter& painter, int scale, int left) {
 } // namespace
 
 void drawStaffPieces(SheetCanvas& canvas) {
-    canvas.paint(QRect(3, 24, 20, staffHeight), [](QPainter& painter) {
+    canvas.paint(QRect(3, 24, 20, staffHeight), Copying::Opaque, [](QPainter& painter) {
         painter.fillRect(QRect(0, 0, 2, staffHeight), ink);
         for (int string = 0; string < stringCount; ++string)
             for (const int x : dottedColumns)
                 drawStringLine(painter, string * stringPitch, x, 1);
     });
-    canvas.paint(QRect(33, 24, 30, staffHeight), [](QPainter& painter) {
+    canvas.paint(QRect(33, 24, 30, staffHeight), Copying::Opaque, [](QPainter& painter) {
         for (int string = 0; string < stringCount; ++string)
             drawStringLine(painter, string * stringPitch, 0, 30);
     });
 }
 
 void drawRepeats(SheetCanvas& canvas) {
-    canvas.paint(QRect(323, 25, 12, 59), [&](QPainter& painter) {
+    canvas.paint(QRect(323, 25, 12, 59), Copying::And, [&](QPainter& painter) {
         drawThickThinBar(painter, 0, 4);
         drawRepeatDots(painter, canvas.scale(), 7);
     });
-    canvas.paint(QRect(340, 25, 12, 59), [&](QPainter& painter) {
-        drawThickThinBar(painter, 8, 6);
-        drawRepeatDots(painter, canvas.scale(), 1);
+    canvas.paint(QRect(340, 25, 12, 59), Copying::And, [&](QPainter& painter) {
+        // The note of the bar's column follows right behind the cell: two columns stay free for it.
+        drawThickThinBar(painter, 7, 5);
+        drawRepeatDots(painter, canvas.scale(), 0);
     });
 }
 
 void drawNumberCells(SheetCanvas& canvas) {
     for (int fret = 0; fret <= 29; ++fret)
-        drawNumber(canvas, {1 + 10 * fret, 1}, fret);
+        drawNoteNumber(canvas, {1 + 10 * fret, 1}, fret);
     for (int number = 30; number <= 46; ++number)
-        drawNumber(canvas, {1 + 10 * (number - 30), 9}, number);
+        drawNoteNumber(canvas, {1 + 10 * (number - 30), 9}, number);
     for (int count = 2; count <= 9; ++count)
-        drawNumber(canvas, {188 + 10 * (count - 2), 54}, count);
+        drawCount(canvas, {188 + 10 * (count - 2), 54}, count);
     for (int count = 10; count <= 16; ++count)
-        drawNumber(canvas, {188 + 10 * (count - 10), 62}, count);
+        drawCount(canvas, {188 + 10 * (count - 10), 62}, count);
 }
 
 void drawSignCells(SheetCanvas& canvas) {
-    drawCross(canvas, {301, 1});
-    drawCross(canvas, {258, 62});
+    drawCross(canvas, {301, 1}, Copying::Opaque);
+    drawCross(canvas, {258, 62}, Copying::And);
     drawArrowHead(canvas, {171, 9});
-    canvas.paint(QRect({331, 1}, cellSize),
+    canvas.paint(QRect({331, 1}, cellSize), Copying::Opaque,
                  [](QPainter& painter) { drawStringLine(painter, stringRowOfCell, 0, cellSize.width()); });
 }
 

@@ -18,7 +18,7 @@ QRect markAt(int left) { return {left, 107, markWidth, 12}; }
 using DrawMark = void (*)(QPainter&);
 
 void drawOpaqueMark(SheetCanvas& canvas, int left, DrawMark draw) {
-    canvas.paint(markAt(left), [draw](QPainter& painter) {
+    canvas.paint(markAt(left), Copying::Opaque, [draw](QPainter& painter) {
         drawStringLine(painter, stringRowOfMark, 0, markWidth);
         draw(painter);
     });
@@ -31,8 +31,8 @@ constexpr double tipWeight = 0.5;
 void drawSlur(QPainter& painter, double foot, double outer, double inner) {
     QPainterPath path;
     path.moveTo(0.5, foot);
-    path.cubicTo(6, outer, 20, outer, 25.5, foot);
-    path.cubicTo(20, inner, 6, inner, 0.5, foot);
+    path.cubicTo(6, outer, 19.5, outer, 25, foot);
+    path.cubicTo(19.5, inner, 6, inner, 0.5, foot);
     painter.fillPath(path, ink);
     strokePath(painter, path, tipWeight);
 }
@@ -42,36 +42,32 @@ void drawHammerArc(QPainter& painter) { drawSlur(painter, 6.5, -0.9, 1.3); }
 void drawSlide(QPainter& painter) {
     QPainterPath path;
     path.moveTo(1.5, 11);
-    path.lineTo(24.5, 4);
+    path.lineTo(22.5, 4);
     strokePath(painter, path, 1.2);
 }
 
-// A wave of whole periods: a band between two shifted sines, heavier on the slopes than on the
-// crests, as a broad pen would leave it.
-void drawWave(QPainter& painter, double middle, double height, int periods, double weight) {
+// A wave. It ends short of the cell, or it would run into the next note.
+void drawWave(QPainter& painter, double middle, double height, double periods, double weight) {
     constexpr int steps = 240;
     const auto waveAt = [&](int step) {
         const double along = static_cast<double>(step) / steps;
-        return QPointF(1 + 24 * along, middle - height * std::sin(2 * std::numbers::pi * periods * along));
+        return QPointF(1 + 22 * along, middle - height * std::sin(2 * std::numbers::pi * periods * along));
     };
-    QPainterPath path(waveAt(0) + QPointF(0, -weight / 2));
+    QPainterPath path(waveAt(0));
     for (int step = 1; step <= steps; ++step)
-        path.lineTo(waveAt(step) + QPointF(0, -weight / 2));
-    for (int step = steps; step >= 0; --step)
-        path.lineTo(waveAt(step) + QPointF(0, weight / 2));
-    path.closeSubpath();
-    painter.fillPath(path, ink);
+        path.lineTo(waveAt(step));
+    strokePath(painter, path, weight, Qt::FlatCap);
 }
 
-void drawVibrato(QPainter& painter) { drawWave(painter, 3.6, 1.4, 3, 1.7); }
+void drawVibrato(QPainter& painter) { drawWave(painter, 3.5, 1.4, 3, 1.4); }
 
-void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.5, 2.5, 2, 1.8); }
+void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.5, 2.2, 1.5, 1.7); }
 
 void drawDive(QPainter& painter) {
     QPainterPath path;
-    path.moveTo(2, 3);
-    path.lineTo(13, 10.3);
-    path.lineTo(24, 3);
+    path.moveTo(1.5, 2.5);
+    path.lineTo(12, 10);
+    path.lineTo(22.5, 2.5);
     strokePath(painter, path, 1.3);
 }
 
@@ -89,7 +85,7 @@ void drawHairpin(QPainter& painter) {
     path.moveTo(24.5, 3.5);
     path.lineTo(3.5, 7.5);
     path.lineTo(24.5, 11.5);
-    strokePath(painter, path, 1.1);
+    strokePath(painter, path, 1.3);
 }
 
 void drawTapArc(QPainter& painter) {
@@ -115,7 +111,7 @@ void drawRingArrow(QPainter& painter) {
 }
 
 void drawBracket(SheetCanvas& canvas, int left, bool opening) {
-    canvas.paint(QRect(left, 19, 3, 10), [&](QPainter& painter) {
+    canvas.paint(QRect(left, 19, 3, 10), Copying::And, [&](QPainter& painter) {
         if (!opening) {
             painter.translate(3, 0);
             painter.scale(-1, 1);
@@ -134,7 +130,7 @@ void drawBracket(SheetCanvas& canvas, int left, bool opening) {
 }
 
 void drawStaccatoDot(SheetCanvas& canvas) {
-    canvas.paint(QRect(30, 85, 4, 4), [&](QPainter& painter) {
+    canvas.paint(QRect(30, 85, 4, 4), Copying::And, [&](QPainter& painter) {
         if (canvas.scale() == 1) {
             drawPixels(painter, {0, 0}, {".##.", "####", "####", ".##."});
             return;
@@ -147,20 +143,20 @@ void drawStaccatoDot(SheetCanvas& canvas) {
 
 void drawLetters(SheetCanvas& canvas) {
     const int scale = canvas.scale();
-    canvas.paint(markAt(197), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'H', {2, 0});
+    canvas.paint(markAt(197), Copying::And, [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'H', {3, 0});
         drawLetter(painter, scale, 'a', {8, 0});
     });
-    canvas.paint(markAt(281), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'S', {2, 0});
+    canvas.paint(markAt(281), Copying::And, [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'S', {3, 0});
         drawLetter(painter, scale, '.', {8, 0});
     });
-    canvas.paint(markAt(309), [scale](QPainter& painter) {
-        drawLetter(painter, scale, 'P', {2, 0});
+    canvas.paint(markAt(309), Copying::And, [scale](QPainter& painter) {
+        drawLetter(painter, scale, 'P', {3, 0});
         drawLetter(painter, scale, '.', {8, 0});
     });
-    canvas.paint(QRect(448, 126, 10, 12), [scale](QPainter& painter) {
-        drawDigit(painter, scale, '2', DigitWidth::Narrow, {4, 0});
+    canvas.paint(QRect(448, 126, 10, 12), Copying::And, [scale](QPainter& painter) {
+        drawDigit(painter, scale, '2', DigitSize::Small, {3, 0});
     });
 }
 
@@ -178,10 +174,10 @@ void drawLaidOverMarks(SheetCanvas& canvas) {
     drawStaccatoDot(canvas);
     drawBracket(canvas, 212, true);
     drawBracket(canvas, 220, false);
-    canvas.paint(markAt(169), drawRingedGhost);
-    canvas.paint(markAt(225), drawHairpin);
-    canvas.paint(markAt(253), drawTapArc);
-    canvas.paint(markAt(337), drawRingArrow);
+    canvas.paint(markAt(169), Copying::And, drawRingedGhost);
+    canvas.paint(markAt(225), Copying::And, drawHairpin);
+    canvas.paint(markAt(253), Copying::And, drawTapArc);
+    canvas.paint(markAt(337), Copying::And, drawRingArrow);
     drawLetters(canvas);
 }
 

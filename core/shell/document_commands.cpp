@@ -44,7 +44,7 @@ bool DocumentCommands::askForName(FileQuestion::Kind kind) {
 void DocumentCommands::mnuFileNew() {
     if (!confirmLeaving()) return;
     editor_.MakeNewDocument();
-    host_.showFileProperties();
+    host_.showFrmFileProperties();
 }
 
 void DocumentCommands::mnuFileSave() {

@@ -21,7 +21,7 @@ struct DocumentCommandHost {
     std::function<bool(const QString& command)> isEnabled;
     std::function<void(const std::string& text)> setTrackPanel;
     // Shows the document's properties modally.
-    std::function<void()> showFileProperties;
+    std::function<void()> showFrmFileProperties;
 };
 
 class DocumentCommands {

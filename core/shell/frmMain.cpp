@@ -22,7 +22,7 @@ frmMain::frmMain(Services& services)
       commands_(document_, editor_, services, words_,
                 {[this](const QString& name) { return menu_->action(name)->isEnabled(); },
                  [this](const std::string& text) { setTrackPanel(text); },
-                 [this] { showFileProperties(); }}) {
+                 [this] { showFrmFileProperties(); }}) {
     setObjectName("frmMain");
     setWindowTitle("Tabrova - untitled.tr3");
     menu_ = std::make_unique<MainMenu>(*menuBar());
@@ -43,7 +43,10 @@ frmMain::frmMain(Services& services)
 frmMain::~frmMain() = default;
 
 void frmMain::Form_Load(const QString& commandLine, Splash splash) {
-    openMidiDevice();
+    LoadLanguage();
+    sound_.CloseMidiDevice();
+    loadFrmOptions();
+    sound_.ProgramChange(0, StartProgram);
     editor_.SetDebugLabel();
     editor_.MakeNewDocument();
     document_.Tempo = DefaultTempo;
@@ -62,18 +65,24 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     focusPage();
 }
 
-// The options own the choice of the device; until a choice is stored the mapper serves.
-void frmMain::openMidiDevice() {
-    sound_.CloseMidiDevice();
-    sound_.OpenMidiDevice(MidiMapperId);
-    sound_.ProgramChange(0, StartProgram);
+// The lines of the active language replace the built-in captions and words, when there is a reader for them.
+void frmMain::LoadLanguage() {}
+
+// The options own the choice of the device; until they offer one the mapper serves.
+void frmMain::loadFrmOptions() { sound_.OpenMidiDevice(MidiMapperId); }
+
+void frmMain::StopTimer() {
+    document_.PlaybackPosition = 0;
+    ToggleMenus(true);
 }
 
+void frmMain::showFrmHelp() { menu_->action("mnuHelpContents")->trigger(); }
+
 // The document's properties, when there is a window for them; its closing redraws.
-void frmMain::showFileProperties() { editor_.refreshdrawing(); }
+void frmMain::showFrmFileProperties() { editor_.refreshdrawing(); }
 
 // The list of drums, when there is a window for it, on a percussion track.
-void frmMain::showPercussionEditor() {}
+void frmMain::showFrmPercussion() {}
 
 void frmMain::ReportMidiError(int code) {
     services_.midi.errorText(code);
@@ -136,6 +145,8 @@ void frmMain::resizeClient(int width, int height) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!commands_.confirmLeaving()) return event->ignore();
+    StopTimer();
+    StopTimer();
     sound_.AllNotesOff();
     splash_.clear();
     sound_.CloseMidiDevice();
@@ -162,7 +173,7 @@ void frmMain::runSplashChoice(SplashChoice choice) {
     switch (choice) {
     case SplashChoice::NewTablature:
         editor_.MakeNewDocument();
-        showFileProperties();
+        showFrmFileProperties();
         break;
     case SplashChoice::OpenTablature:
         commands_.OpenDocNoConfirm(true);

@@ -75,9 +75,12 @@ class frmMain : public QMainWindow, private EditorHost {
     void connectNoteMenu();
     void chooseMode(bool powerChord);
     void connectPage();
-    void openMidiDevice();
-    void showFileProperties();
-    void showPercussionEditor();
+    void LoadLanguage();
+    void loadFrmOptions();
+    void StopTimer();
+    void showFrmHelp();
+    void showFrmFileProperties();
+    void showFrmPercussion();
     void mnuViewNotation();
     void Form_Resize();
     void placePanels();

@@ -90,7 +90,7 @@ void frmMain::connectPage() {
         editor_.picDocument_MouseDown(buttonOf(button), x, y);
     };
     handlers.doubleClick = [this] {
-        if (!document_.isGuitarTrack(document_.CurrentTrack)) showPercussionEditor();
+        if (!document_.isGuitarTrack(document_.CurrentTrack)) showFrmPercussion();
     };
     handlers.scrollBy = [this](int staves) { editor_.VScroll1_Change(editor_.scroll().value + staves); };
     handlers.scrollPageUp = [this] {
