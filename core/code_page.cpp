@@ -37,6 +37,8 @@ std::optional<char32_t> takeUtf8(std::string_view& text) {
         if ((byteAt(i) & 0xC0) != 0x80) return std::nullopt;
         value = (value << 6) | (byteAt(i) & 0x3Fu);
     }
+    // A longer form than the character needs is malformed.
+    if ((length == 2 && value < 0x80) || (length == 3 && value < 0x800)) return std::nullopt;
     text.remove_prefix(length);
     return value;
 }

@@ -1,5 +1,6 @@
 #include "core/conversions.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -48,6 +49,30 @@ bool isPlainNumber(std::string_view text) {
     return at == text.size();
 }
 
+// The exponent behind "e", held within a range that no number of digits outweighs.
+long exponentOf(std::string_view text) {
+    const std::size_t mark = text.find_first_of("eE");
+    if (mark == std::string_view::npos) return 0;
+    std::string_view digits = text.substr(mark + 1);
+    const bool negative = digits.front() == '-';
+    if (digits.front() == '+' || negative) digits.remove_prefix(1);
+    constexpr long Limit = 1000000000;
+    long value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error != std::errc() || value > Limit) value = Limit;
+    return negative ? -value : value;
+}
+
+// A number out of a double's range is too small or too large: its first digit that counts tells, with the
+// exponent.
+bool isTiny(std::string_view text) {
+    const std::string_view mantissa = text.substr(0, text.find_first_of("eE"));
+    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
+    const std::size_t digit = mantissa.find_first_of("123456789");
+    if (digit == std::string_view::npos) return true;
+    return static_cast<long>(point) - static_cast<long>(digit) + exponentOf(text) < 0;
+}
+
 template <class Integer>
 std::optional<Integer> toInteger(double value) {
     const double rounded = roundHalfToEven(value);
@@ -80,13 +105,8 @@ std::optional<double> toNumber(std::string_view text) {
     if (text.front() == '+') text.remove_prefix(1);
     double value = 0.0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    // A number too small for a double is reported like one too large; only its exponent's sign tells them
-    // apart.
-    if (error == std::errc::result_out_of_range) {
-        const std::size_t exponent = text.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos && text[exponent + 1] == '-';
-        return tiny ? std::optional<double>(0.0) : std::nullopt;
-    }
+    if (error == std::errc::result_out_of_range)
+        return isTiny(text) ? std::optional<double>(0.0) : std::nullopt;
     return value;
 }
 

@@ -107,7 +107,11 @@ FileText documentText(const Document& document) {
 bool saveDocument(Document& document, const std::filesystem::path& path) {
     const FileText text = documentText(document);
     std::error_code failed;
-    std::ofstream file(path, std::ios::binary | std::ios::in);
+    std::ofstream file;
+    // The stream holds nothing back, so that its position is that of the file also behind a write that
+    // failed.
+    file.rdbuf()->pubsetbuf(nullptr, 0);
+    file.open(path, std::ios::binary | std::ios::in);
     if (!file) file.open(path, std::ios::binary | std::ios::trunc);
     if (!file) return false;
     document.HasFileName = True16;

@@ -135,19 +135,126 @@ TEST(CellGrid, RandomOperationsAgreeWithAMap) {
     }
 }
 
-TEST(TextPool, GivesEachTextOneId) {
+TEST(CellGrid, AColumnTakesTheWidthOfItsLargestId) {
+    CellGrid grid;
+    grid.resize(1, 8);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::Empty);
+    grid.set(0, 1, 255);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::One);
+    grid.set(0, 2, 256);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::Two);
+    grid.set(0, 3, 65536);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::Four);
+    grid.set(0, 4, 1);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::Four);
+    EXPECT_EQ(grid.at(0, 1), 255u);
+    EXPECT_EQ(grid.at(0, 4), 1u);
+}
+
+TEST(CellGrid, AWideColumnLeavesItsNeighboursNarrow) {
+    CellGrid grid;
+    grid.resize(3, 6);
+    grid.set(0, 0, 4);
+    grid.set(1, 0, 70000);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::One);
+    EXPECT_EQ(grid.column(2).width(), CellColumn::Width::Empty);
+}
+
+TEST(CellGrid, ManyTextsOfEveryWidthStandInOneGrid) {
     TextPool pool;
-    EXPECT_EQ(pool.intern(""), EmptyText);
-    EXPECT_EQ(pool.intern("17"), pool.intern("17"));
-    EXPECT_NE(pool.intern("17"), pool.intern("71"));
-    for (const std::string& text : {std::string("a"), std::string("ab"), std::string("abc"),
-                                    std::string(1, '\0'), std::string("a\0b", 3), std::string(100000, 'z')}) {
-        EXPECT_EQ(pool.text(pool.intern(text)), text);
-        EXPECT_EQ(pool.intern(text), pool.intern(text));
+    CellGrid grid;
+    constexpr int Columns = 300, Rows = 300;
+    grid.resize(Columns, Rows);
+    for (int column = 0; column < Columns; ++column)
+        for (int row = 0; row < Rows; ++row)
+            grid.set(column, row, pool.intern(std::to_string(column * Rows + row)));
+    EXPECT_GT(pool.size(), 65536u);
+    EXPECT_EQ(grid.column(1).width(), CellColumn::Width::Two);
+    EXPECT_EQ(grid.column(Columns - 1).width(), CellColumn::Width::Four);
+    for (int column = 0; column < Columns; ++column)
+        for (int row = 0; row < Rows; ++row)
+            ASSERT_EQ(pool.text(grid.at(column, row)), std::to_string(column * Rows + row));
+}
+
+class ResizedColumn : public ::testing::TestWithParam<TextId> {};
+
+TEST_P(ResizedColumn, KeepsItsCellsForMoreAndForFewerRows) {
+    for (int before = 1; before <= 20; ++before)
+        for (int after = 0; after <= 40; ++after) {
+            CellGrid grid;
+            grid.resize(2, before);
+            for (int row = 0; row < before; ++row)
+                grid.set(1, row, GetParam() - static_cast<TextId>(row));
+            grid.resize(2, after);
+            ASSERT_EQ(grid.rows(), after);
+            for (int row = 0; row < after; ++row)
+                ASSERT_EQ(grid.at(1, row), row < before ? GetParam() - static_cast<TextId>(row) : EmptyText)
+                    << before << " to " << after;
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Widths, ResizedColumn, ::testing::Values(200u, 60000u, 0xFFFFFFFFu));
+
+TEST(CellGrid, CellsLostByShrinkingDoNotReturn) {
+    for (const TextId id : {200u, 60000u, 90000u}) {
+        CellGrid grid;
+        grid.resize(4, 6);
+        grid.set(3, 5, id);
+        grid.resize(3, 6);
+        grid.resize(4, 6);
+        EXPECT_EQ(grid.at(3, 5), EmptyText);
+        grid.set(3, 5, id);
+        grid.resize(4, 5);
+        grid.resize(4, 6);
+        EXPECT_EQ(grid.at(3, 5), EmptyText);
     }
-    EXPECT_LT(pool.intern("b3.0"), 256u);
-    pool.clear();
-    EXPECT_EQ(pool.text(pool.intern("abc")), "abc");
+}
+
+TEST(CellGrid, AGridOfNoCellsHoldsNothing) {
+    for (const auto& [columns, rows] : {std::pair{0, 0}, {0, 6}, {32, 0}}) {
+        CellGrid grid;
+        grid.resize(columns, rows);
+        EXPECT_FALSE(grid.set(0, 0, 7));
+        EXPECT_EQ(grid.at(0, 0), EmptyText);
+        grid.clear();
+        EXPECT_EQ(grid.columns(), columns);
+        EXPECT_EQ(grid.rows(), rows);
+    }
+}
+
+TEST(CellGrid, ClearingWholeColumnsGivesTheirMemoryBack) {
+    CellGrid grid;
+    grid.resize(3, 6);
+    for (int column = 0; column < 3; ++column)
+        grid.set(column, 2, 70000);
+    grid.clear(1, 1, 0, 6);
+    EXPECT_EQ(grid.column(0).width(), CellColumn::Width::Four);
+    EXPECT_EQ(grid.column(1).data(), nullptr);
+    grid.clear();
+    EXPECT_EQ(grid.column(0).data(), nullptr);
+    EXPECT_EQ(grid.column(2).data(), nullptr);
+    EXPECT_EQ(grid.columns(), 3);
+}
+
+TEST(CellGrid, ClearingNothingChangesNothing) {
+    CellGrid grid;
+    grid.resize(2, 6);
+    grid.set(1, 5, 8);
+    grid.clear(0, 0, 0, 6);
+    grid.clear(0, 2, 3, 0);
+    grid.clear(0, -1, 0, 6);
+    grid.clear(0, 2, 0, -1);
+    grid.clear(2, 5, 0, 6);
+    grid.clear(0, 2, 6, 6);
+    EXPECT_EQ(grid.at(1, 5), 8u);
+}
+
+TEST(CellGrid, AFilledCellMayBeEmptiedAgain) {
+    CellGrid grid;
+    grid.resize(1, 6);
+    grid.set(0, 0, 300);
+    EXPECT_TRUE(grid.set(0, 0, EmptyText));
+    EXPECT_EQ(grid.at(0, 0), EmptyText);
 }
 
 } // namespace

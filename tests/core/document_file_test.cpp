@@ -114,18 +114,6 @@ TEST(DocumentFile, EveryByteValueSurvivesInACell) {
         EXPECT_EQ(opened.note(byte, 1), std::string(1, static_cast<char>(byte))) << byte;
 }
 
-TEST(DocumentFile, ABinaryFileFailsAtTheFirstNumber) {
-    Document document;
-    EXPECT_FALSE(readFrom(document, std::string("\x7F"
-                                                "ELF\x02\r\n\0\xFF\r\n\x01\x02\r\nrest",
-                                                22)));
-    EXPECT_EQ(document.Title, "\x7F"
-                              "ELF\x02");
-    EXPECT_EQ(document.Author, std::string("\0\xFF", 2));
-    EXPECT_EQ(document.Tempo, 480);
-    EXPECT_TRUE(document.TrackNames.empty());
-}
-
 TEST(DocumentFile, NumbersAndBooleansMayBeWrittenInOtherForms) {
     Document document, opened;
     resetToNewDocument(document);
@@ -150,99 +138,6 @@ TEST(DocumentFile, TheSavedCursorLinesAreNotLookedAt) {
     for (const std::string& line : text)
         bytes += line + "\r\n";
     EXPECT_TRUE(readFrom(opened, bytes));
-}
-
-TEST(DocumentFile, ANoteOfSeveralLinesStopsTheReaderAtItsSecondLine) {
-    Document document, opened;
-    resetToNewDocument(document);
-    document.Notes = "first\r\nsecond";
-    EXPECT_FALSE(readFrom(opened, written(document)));
-    EXPECT_EQ(opened.Notes, "first");
-    EXPECT_EQ(opened.DoubleTime, False16);
-    document.Notes = "first\r\nTrue";
-    EXPECT_FALSE(readFrom(opened, written(document)));
-    EXPECT_EQ(opened.DoubleTime, True16);
-}
-
-Document& smallDocument(Document& document) {
-    makeDocument(document, 2, 1);
-    document.TrackNames[1] = "Second";
-    for (int column = 0; column < 32; ++column) {
-        document.setNote(column, column % 12, std::to_string(column));
-        document.setTechnique(column, (column + 5) % 12, "h");
-        document.setBarMark(column, ".");
-    }
-    return document;
-}
-
-TEST(DocumentFile, AFileCutBehindAnyLineKeepsAllBeforeTheCut) {
-    Document document;
-    const std::vector<std::string> text = lines(written(smallDocument(document)));
-    for (std::size_t kept = 0; kept < text.size(); ++kept) {
-        std::string bytes;
-        for (std::size_t line = 0; line < kept; ++line)
-            bytes += text[line] + "\r\n";
-        Document opened;
-        ASSERT_FALSE(readFrom(opened, bytes)) << kept;
-        const bool sized = kept >= 18;
-        EXPECT_EQ(opened.RowCapacity, sized ? 12 : 6) << kept;
-        EXPECT_EQ(opened.TuningTable.size(), sized ? 12u : 6u) << kept;
-        EXPECT_EQ(opened.TrackNames.size(), kept < 14 ? 0u : kept < 18 ? 1u : 2u) << kept;
-        if (!sized) continue;
-        const std::size_t notes = kept < 30 ? 0 : kept - 30;
-        for (std::size_t cell = 0; cell < 32 * 12; ++cell)
-            ASSERT_EQ(opened.note(static_cast<int>(cell / 12), static_cast<int>(cell % 12)),
-                      cell < notes ? text[30 + cell] : "");
-    }
-}
-
-TEST(DocumentFile, AFileCutAtAnyByteIsReadOrRefusedInSilence) {
-    Document document;
-    const std::string bytes = written(smallDocument(document));
-    for (std::size_t kept = 0; kept < bytes.size(); kept += kept < 200 ? 1 : 13) {
-        Document opened;
-        readFrom(opened, bytes.substr(0, kept));
-        written(opened);
-    }
-}
-
-TEST(DocumentFile, AbsurdCountsAreAFailedRead) {
-    struct Counts {
-        const char* tracks;
-        const char* staves;
-    };
-    for (const Counts& counts : {Counts{"0", "1"},
-                                 {"-3", "1"},
-                                 {"32768", "1"},
-                                 {"1", "0"},
-                                 {"1", "-1"},
-                                 {"1", "40000"},
-                                 {"12", "32767"},
-                                 {"x", "1"},
-                                 {"", "1"}}) {
-        Document opened;
-        std::string bytes = std::string("T\r\nA\r\n1\r\n 480 \r\n\r\nFalse\r\n") + counts.tracks +
-                            "\r\n1\r\n1\r\n" + counts.staves + "\r\n";
-        for (int track = 0; track < 3; ++track)
-            bytes += "name\r\n127\r\nTrue\r\n24\r\n";
-        EXPECT_FALSE(readFrom(opened, bytes));
-        EXPECT_EQ(opened.ColumnCapacity, 32);
-        EXPECT_EQ(opened.RowCapacity, 6);
-        EXPECT_EQ(opened.Title, "T");
-    }
-}
-
-TEST(DocumentFile, SavingCountsBeyondTheArraysWritesTheLinesUpToThere) {
-    Document document;
-    resetToNewDocument(document);
-    document.TrackCount = 3;
-    EXPECT_EQ(lines(written(document)).size(), 14u);
-    document.TrackCount = 1;
-    document.StaffCount = 9;
-    EXPECT_EQ(lines(written(document)).size(), 20u + 192);
-    document.TrackCount = -4;
-    document.StaffCount = -4;
-    EXPECT_EQ(lines(written(document)).size(), 10u);
 }
 
 TEST(DocumentFile, RandomDocumentsComeBackByteForByte) {
@@ -278,55 +173,6 @@ TEST(DocumentFile, ATextMoreThanAColumnCanCountStillSurvives) {
     EXPECT_TRUE(written(opened) == bytes);
 }
 
-class SavedFile : public ::testing::Test {
-  protected:
-    SavedFile() : folder_(std::filesystem::temp_directory_path() / "tabrova_saved_file_test") {
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-        resetToNewDocument(document_);
-    }
-    ~SavedFile() override { std::filesystem::remove_all(folder_); }
-
-    static std::string content(const std::filesystem::path& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-    std::filesystem::path folder_;
-    Document document_;
-};
-
-TEST_F(SavedFile, ReplacesALongerAndAShorterOldContent) {
-    const auto path = folder_ / "song.tr3";
-    for (const std::size_t old : {0u, 10u, 5000u, 700000u}) {
-        std::ofstream(path, std::ios::binary) << std::string(old, 'z');
-        ASSERT_TRUE(saveDocument(document_, path));
-        EXPECT_EQ(content(path), written(document_));
-    }
-}
-
-TEST_F(SavedFile, AMissingFolderLeavesTheDocumentWithoutAName) {
-    EXPECT_FALSE(saveDocument(document_, folder_ / "missing" / "song.tr3"));
-    EXPECT_EQ(document_.HasFileName, False16);
-    EXPECT_FALSE(saveDocument(document_, folder_));
-    EXPECT_EQ(document_.HasFileName, False16);
-}
-
-TEST_F(SavedFile, AFailingWriteKeepsTheName) {
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "this system has no device that is always full";
-    EXPECT_FALSE(saveDocument(document_, "/dev/full"));
-    EXPECT_EQ(document_.HasFileName, True16);
-}
-
-TEST_F(SavedFile, LeavesNoOtherFileBehind) {
-    ASSERT_TRUE(saveDocument(document_, folder_ / "song.tr3"));
-    int files = 0;
-    for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder_))
-        ++files;
-    EXPECT_EQ(files, 1);
-}
-
 TEST(Examples, ComeBackByteForByte) {
     int examples = 0;
     for (const auto& entry : std::filesystem::directory_iterator(TABROVA_SOURCE_DIR "/examples")) {
@@ -339,6 +185,153 @@ TEST(Examples, ComeBackByteForByte) {
         EXPECT_EQ(written(document), bytes) << entry.path();
     }
     EXPECT_GE(examples, 4);
+}
+
+TEST(DocumentFile, LineThreeIsDigitsAloneAndLineFourAPrintedNumber) {
+    Document document;
+    resetToNewDocument(document);
+    document.PreventReverberations = 0;
+    document.Tempo = 2000;
+    EXPECT_EQ(lines(written(document))[2], "0");
+    EXPECT_EQ(lines(written(document))[3], " 2000 ");
+    document.PreventReverberations = -7;
+    document.Tempo = -7;
+    EXPECT_EQ(lines(written(document))[2], "-7");
+    EXPECT_EQ(lines(written(document))[3], "-7 ");
+}
+
+TEST(DocumentFile, AnyFlagButZeroIsWrittenTrue) {
+    Document document;
+    resetToNewDocument(document);
+    for (const int flag : {-1, 1, 2, 0}) {
+        document.DoubleTime = static_cast<std::int16_t>(flag);
+        EXPECT_EQ(lines(written(document))[5], flag == 0 ? "False" : "True");
+    }
+}
+
+TEST(DocumentFile, ListsAreWrittenAsTheyStand) {
+    Document document, opened;
+    resetToNewDocument(document);
+    document.TrackNames = {" a \"name\", with a comma "};
+    document.TrackVolumes = {"loud"};
+    document.TrackInstruments = {""};
+    const std::vector<std::string> text = lines(written(document));
+    EXPECT_EQ(text[10], " a \"name\", with a comma ");
+    EXPECT_EQ(text[11], "loud");
+    EXPECT_EQ(text[13], "");
+    ASSERT_TRUE(readFrom(opened, written(document)));
+    EXPECT_EQ(opened.TrackNames, document.TrackNames);
+    EXPECT_EQ(opened.TrackVolumes, document.TrackVolumes);
+    EXPECT_EQ(opened.TrackInstruments, document.TrackInstruments);
+}
+
+TEST(DocumentFile, TheCursorIsWrittenAndTheRestOfItsPlaceIsNot) {
+    Document document;
+    makeDocument(document, 2, 2);
+    document.CurrentTrack = 2;
+    document.CurrentStaff = 2;
+    const std::string bytes = written(document);
+    EXPECT_EQ(lines(bytes)[7], " 2 ");
+    EXPECT_EQ(lines(bytes)[8], " 2 ");
+    document.HasFileName = True16;
+    document.ColumnInStaff = 9;
+    document.CurrentString = 3;
+    document.CurrentColumn = 41;
+    document.TopStaff = 1;
+    document.RealtimeMode = 2;
+    document.ClipboardLength = 5;
+    document.ClipboardNotes.set(0, 0, document.pool.intern("12"));
+    EXPECT_EQ(written(document), bytes);
+}
+
+TEST(DocumentFile, EveryByteValueSurvivesInTheHeaderButForTheLineEnd) {
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte)
+        if (byte != '\n') all.push_back(static_cast<char>(byte));
+    all.push_back('\n');
+    Document document, opened;
+    resetToNewDocument(document);
+    document.Title = document.Author = document.Notes = all;
+    document.TrackNames = document.TrackVolumes = document.TrackInstruments = {all};
+    ASSERT_TRUE(readFrom(opened, written(document)));
+    EXPECT_EQ(opened.Title, all);
+    EXPECT_EQ(opened.Author, all);
+    EXPECT_EQ(opened.Notes, all);
+    EXPECT_EQ(opened.TrackNames.front(), all);
+    EXPECT_EQ(opened.TrackVolumes.front(), all);
+    EXPECT_EQ(opened.TrackInstruments.front(), all);
+}
+
+TEST(DocumentFile, AFileOfPlainLfReadsLikeOneOfCrLf) {
+    Document document, opened;
+    makeDocument(document, 2, 2);
+    document.setNote(40, 7, "12");
+    document.setBarMark(63, "r2");
+    const std::string bytes = written(document);
+    std::string plain;
+    for (const char c : bytes)
+        if (c != '\r') plain.push_back(c);
+    ASSERT_TRUE(readFrom(opened, plain));
+    EXPECT_EQ(written(opened), bytes);
+}
+
+TEST(DocumentFile, TheLastLineNeedNotBeEnded) {
+    Document document, opened;
+    resetToNewDocument(document);
+    document.setBarMark(31, "r4");
+    std::string bytes = written(document);
+    bytes.resize(bytes.size() - 2);
+    ASSERT_TRUE(readFrom(opened, bytes));
+    EXPECT_EQ(opened.barMark(31), "r4");
+}
+
+TEST(DocumentFile, WhatStandsBehindTheLastLineIsNotLookedAt) {
+    Document document, opened;
+    resetToNewDocument(document);
+    const std::string bytes = written(document);
+    ASSERT_TRUE(readFrom(opened, bytes + "more\r\nlines\r\n"));
+    EXPECT_EQ(written(opened), bytes);
+}
+
+TEST(DocumentFile, OpeningReplacesALargerDocument) {
+    Document document, opened;
+    resetToNewDocument(document);
+    makeDocument(opened, 4, 6);
+    opened.setNote(100, 20, "7");
+    opened.HasFileName = True16;
+    opened.ColumnInStaff = 12;
+    opened.CurrentString = 5;
+    ASSERT_TRUE(readFrom(opened, written(document)));
+    EXPECT_EQ(written(opened), written(document));
+    EXPECT_EQ(opened.ColumnCapacity, 32);
+    EXPECT_EQ(opened.RowCapacity, 6);
+    EXPECT_EQ(opened.HasFileName, False16);
+    EXPECT_EQ(opened.ColumnInStaff, 0);
+    EXPECT_EQ(opened.CurrentString, 0);
+}
+
+TEST(DocumentFile, LongRunsOfEmptyCellsKeepTheirLength) {
+    for (const int column : {0, 1, 340, 341, 342, 682, 683, 2047}) {
+        Document document, opened;
+        makeDocument(document, 2, 64);
+        document.setNote(column, column % 12, "9");
+        const std::string bytes = written(document);
+        EXPECT_EQ(documentText(document).size(), bytes.size());
+        EXPECT_EQ(lines(bytes).size(), 10u + 8 + 12 + 2 * 2048 * 12 + 2048);
+        EXPECT_EQ(lines(bytes)[30 + static_cast<std::size_t>(column * 12 + column % 12)], "9");
+        ASSERT_TRUE(readFrom(opened, bytes));
+        EXPECT_EQ(opened.note(column, column % 12), "9");
+    }
+}
+
+TEST(DocumentFile, ATextLongerThanAnyBufferSurvives) {
+    Document document, opened;
+    resetToNewDocument(document);
+    document.setNote(3, 3, std::string(1'000'000, 'n'));
+    document.setNote(3, 4, "7");
+    ASSERT_TRUE(readFrom(opened, written(document)));
+    EXPECT_EQ(opened.note(3, 3).size(), 1'000'000u);
+    EXPECT_EQ(opened.note(3, 4), "7");
 }
 
 } // namespace

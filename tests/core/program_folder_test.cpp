@@ -1,5 +1,7 @@
 #include "core/program_folder.h"
 
+#include "tests/core/temporary_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -11,17 +13,16 @@ namespace fs = std::filesystem;
 
 class ProgramFolder : public ::testing::Test {
   protected:
-    ProgramFolder() : root_(fs::temp_directory_path() / "tabrova_program_folder_test") {
-        fs::remove_all(root_);
+    ProgramFolder() {
         sources_ = {std::nullopt, root_ / "bin", root_ / "user", root_ / "shared"};
         fs::create_directories(root_ / "bin");
         fs::create_directories(root_ / "shared" / "languages" / "Deutsch");
         std::ofstream(root_ / "shared" / "genmidi.txt") << "Piano";
         std::ofstream(root_ / "shared" / "languages" / "Deutsch" / "lang.trl") << "Datei";
     }
-    ~ProgramFolder() override { fs::remove_all(root_); }
 
-    fs::path root_;
+    testing::TemporaryFolder temporary_;
+    const fs::path root_ = temporary_.path();
     ProgramFolderSources sources_;
 };
 
@@ -59,6 +60,52 @@ TEST_F(ProgramFolder, WhatTheUserDeletedOrChangedStays) {
 TEST_F(ProgramFolder, MissingSharedDataIsPassedOver) {
     sources_.sharedData = root_ / "nothing";
     EXPECT_EQ(programFolder(sources_), root_ / "user");
+}
+
+TEST_F(ProgramFolder, TheEnvironmentsFolderIsNeitherMadeNorFilled) {
+    sources_.home = root_ / "home";
+    programFolder(sources_);
+    EXPECT_FALSE(fs::exists(root_ / "home"));
+    EXPECT_FALSE(fs::exists(root_ / "user"));
+}
+
+TEST_F(ProgramFolder, AFolderCalledPortableDoesNotCount) {
+    fs::create_directories(root_ / "bin" / "portable");
+    EXPECT_EQ(programFolder(sources_), root_ / "user");
+}
+
+TEST_F(ProgramFolder, TheUsersFolderIsMadeWithItsParents) {
+    sources_.userDataFolder = root_ / "a" / "b" / "c";
+    EXPECT_EQ(programFolder(sources_), root_ / "a" / "b" / "c");
+    EXPECT_TRUE(fs::is_regular_file(root_ / "a" / "b" / "c" / "genmidi.txt"));
+}
+
+TEST_F(ProgramFolder, AUsersFolderThatIsThereIsNotFilledAgain) {
+    fs::create_directories(root_ / "user");
+    EXPECT_EQ(programFolder(sources_), root_ / "user");
+    EXPECT_TRUE(fs::is_empty(root_ / "user"));
+}
+
+TEST_F(ProgramFolder, AUsersFolderThatCannotBeMadeIsPassedOver) {
+    std::ofstream(root_ / "file") << "no folder";
+    sources_.userDataFolder = root_ / "file" / "user";
+    EXPECT_EQ(programFolder(sources_), root_ / "file" / "user");
+    EXPECT_TRUE(fs::is_regular_file(root_ / "file"));
+}
+
+TEST_F(ProgramFolder, FillingAddsWhatIsMissingInFoldersThatAreThere) {
+    fs::create_directories(root_ / "user" / "languages" / "Deutsch");
+    std::ofstream(root_ / "user" / "languages" / "own.txt") << "own";
+    fillFromSharedData(sources_.sharedData, root_ / "user");
+    EXPECT_TRUE(fs::exists(root_ / "user" / "languages" / "Deutsch" / "lang.trl"));
+    EXPECT_TRUE(fs::exists(root_ / "user" / "languages" / "own.txt"));
+    EXPECT_TRUE(fs::exists(root_ / "user" / "genmidi.txt"));
+}
+
+TEST_F(ProgramFolder, FillingLeavesTheSharedDataAlone) {
+    fillFromSharedData(sources_.sharedData, root_ / "user");
+    EXPECT_TRUE(fs::exists(root_ / "shared" / "genmidi.txt"));
+    EXPECT_TRUE(fs::exists(root_ / "shared" / "languages" / "Deutsch" / "lang.trl"));
 }
 
 } // namespace
