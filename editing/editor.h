@@ -43,6 +43,9 @@ class Editor {
     void DrawAndStorePercussionNote(int drumKey);
     void StoreTechnique(int code);
 
+    // A choice in the fret palette, by the place of its highlight: the old note goes first.
+    void chooseFromPalette(const Rect& highlight);
+
     void MoveCursor(Direction direction);
     void picDocument_MouseDown(MouseButton button, int x, int y);
     // The scroll bar was moved to `value`, which is brought into its range.

@@ -1,6 +1,7 @@
 // Keys, techniques and bar marks: what a key does to the cell under the cursor.
 #include "core/document_operations.h"
 #include "editing/editor.h"
+#include "editing/fret_palette.h"
 #include "editing/key_codes.h"
 #include "editing/key_table.h"
 #include "editing/panel_placement.h"
@@ -72,6 +73,16 @@ void Editor::StoreTechnique(int code) {
     blankTechniquePlace();
     document_.setTechnique(document_.CurrentColumn, document_.cursorRow(), techniqueText(code));
     if (modes.intelligent && (code == key::H || code == key::T)) picDocument_KeyDown(key::Right, 0);
+}
+
+// The second and third row put the first digit into the cell, which the typed digit then completes.
+void Editor::chooseFromPalette(const Rect& highlight) {
+    picDocument_KeyDown(key::Delete, 0);
+    const auto fret = paletteFret(highlight);
+    if (!fret) return;
+    if (*fret >= 10)
+        document_.setNote(document_.CurrentColumn, document_.cursorRow(), std::to_string(*fret / 10));
+    picDocument_KeyDown(key::Digit0 + *fret % 10, 0);
 }
 
 void Editor::openPanel(Panel panel) {

@@ -73,6 +73,10 @@ void frmMain::connectPanels() {
         painter.fillRect(objects.NoteLine.x1, 0, objects.borderWidth, strip_->height(),
                          QColor(objects.noteLineColor));
     };
+    noteSelector_->chosen = [this](const Rect& highlight) {
+        editor_.chooseFromPalette(highlight);
+        focusPage();
+    };
     noteSelector_->closed = [this] { closePanel(*noteSelector_); };
     bendPanel_->chosen = [this](int code) { closeBendPanel(code); };
     repeatPanel_->chosen = [this](int value) { closeRepeatPanel(value); };

@@ -1,6 +1,9 @@
 #include "core/shell/note_selector.h"
 
+#include "editing/fret_palette.h"
+
 #include <QFontMetrics>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
 
@@ -10,7 +13,6 @@ namespace {
 
 constexpr int PaletteWidth = 228;
 constexpr int PaletteHeight = 82;
-constexpr int ParkedLeft = 300;
 constexpr int FretsInRow = 10;
 constexpr int FretCount = 30;
 
@@ -21,10 +23,11 @@ void PrintAt(QPainter& surface, int x, int y, const QString& text) {
 
 } // namespace
 
-NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), shpNoteSelector_{ParkedLeft, 18, 20, 18} {
+NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), shpNoteSelector_(ParkedPaletteHighlight) {
     setObjectName("picNoteSelector");
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
+    setMouseTracking(true);
     setFixedSize(PaletteWidth, PaletteHeight);
     auto* close = new QToolButton(this);
     close->setObjectName("Image1");
@@ -38,12 +41,28 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), shpNoteSelector_{P
 }
 
 void NoteSelector::openAt(const Rect& place) {
-    shpNoteSelector_.left = ParkedLeft;
+    shpNoteSelector_ = ParkedPaletteHighlight;
     move(place.left, place.top);
     show();
     raise();
     update();
 }
+
+void NoteSelector::mouseMoveEvent(QMouseEvent* event) {
+    shpNoteSelector_ =
+        paletteHighlight(shpNoteSelector_, event->position().toPoint().x(), event->position().toPoint().y());
+    update();
+}
+
+// The palette keeps its mouse events: the page below it must not see them.
+void NoteSelector::mousePressEvent(QMouseEvent* event) { event->accept(); }
+
+void NoteSelector::mouseReleaseEvent(QMouseEvent*) {
+    hide();
+    chosen(shpNoteSelector_);
+}
+
+void NoteSelector::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
 
 void NoteSelector::DrawNoteSelector(QPainter& surface) const {
     for (int fret = 0; fret < FretCount; ++fret) {

@@ -1,9 +1,11 @@
 // `picNoteSelector`, the fret palette: three rows of ten cells that a right click on the page opens.
 #pragma once
 
-#include "editing/editor.h"
+#include "tabview/surface.h"
 
 #include <QFrame>
+
+#include <functional>
 
 class QLabel;
 class QPainter;
@@ -14,6 +16,8 @@ class NoteSelector : public QFrame {
   public:
     explicit NoteSelector(QWidget* parent);
 
+    // A click: the place of the highlight.
+    std::function<void(const Rect& highlight)> chosen;
     // The palette closes by its button.
     std::function<void()> closed;
 
@@ -21,6 +25,10 @@ class NoteSelector : public QFrame {
     void openAt(const Rect& place);
 
   protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:

@@ -65,6 +65,39 @@ TEST(Keyboard, PageKeysScroll) {
     EXPECT_EQ(drive.doc()["TopStaff"].toInt(), 0);
 }
 
+TEST(FretPalette, AChoiceWritesItsFretAndClosesThePalette) {
+    struct Choice {
+        int x, y;
+        const char* fret;
+    };
+    DriverSession drive;
+    for (const Choice& choice : {Choice{10, 25, "0"},
+                                 {190, 30, "9"},
+                                 {10, 45, "10"},
+                                 {110, 50, "15"},
+                                 {30, 65, "21"},
+                                 {190, 70, "29"},
+                                 {210, 65, ""},
+                                 {10, 5, ""}}) {
+        drive.ok("key 55");
+        drive.ok("click picDocument 30 28 right");
+        drive.ok(QString("move picNoteSelector %1 %2").arg(choice.x).arg(choice.y));
+        drive.ok(QString("click picNoteSelector %1 %2").arg(choice.x).arg(choice.y));
+        EXPECT_EQ(note(drive.doc(), 0, 0), choice.fret) << choice.x << ',' << choice.y;
+        EXPECT_FALSE(drive.page()["picNoteSelector"].toObject()["visible"].toBool());
+        EXPECT_EQ(drive.doc()["ColumnInStaff"].toInt(), 0);
+    }
+}
+
+TEST(FretPalette, ItsButtonOnlyClosesIt) {
+    DriverSession drive;
+    drive.ok("key 55");
+    drive.ok("click picDocument 30 28 right");
+    drive.ok("click Image1");
+    EXPECT_FALSE(drive.page()["picNoteSelector"].toObject()["visible"].toBool());
+    EXPECT_EQ(note(drive.doc(), 0, 0), "7");
+}
+
 TEST(Keyboard, TheBendPanelIsLeftByEnterOnly) {
     DriverSession drive;
     drive.ok("type picDocument 7v");

@@ -1,0 +1,38 @@
+#include "editing/fret_palette.h"
+
+namespace tabrova {
+
+namespace {
+
+constexpr int CellSize = 20;
+constexpr int FirstLeft = 1;
+constexpr int FirstTop = 18;
+constexpr int FretsInRow = 10;
+constexpr int Rows = 3;
+
+// The number of a grid line, if the place stands on one.
+std::optional<int> lineAt(int place, int first, int count) {
+    const int line = (place - first) / CellSize;
+    if (place < first || (place - first) % CellSize != 0 || line >= count) return std::nullopt;
+    return line;
+}
+
+} // namespace
+
+Rect paletteHighlight(const Rect& highlight, int x, int y) {
+    constexpr int CellsBegin = 10;
+    if (y < CellsBegin) return highlight;
+    Rect place = highlight;
+    place.left = (x - 4) / CellSize * CellSize + FirstLeft;
+    place.top = (y - 20) / CellSize * CellSize + FirstTop;
+    return place;
+}
+
+std::optional<int> paletteFret(const Rect& highlight) {
+    const auto column = lineAt(highlight.left, FirstLeft, FretsInRow);
+    const auto row = lineAt(highlight.top, FirstTop, Rows);
+    if (!column || !row) return std::nullopt;
+    return *row * FretsInRow + *column;
+}
+
+} // namespace tabrova
