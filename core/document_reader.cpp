@@ -89,6 +89,8 @@ bool readDocument(Document& document, std::istream& file) {
     const int rows = document.TrackCount * StringsPerTrack;
     if (document.StaffCount < 1 || !ResizeGrids(document, document.StaffCount * ColumnsPerStaff, rows))
         return false;
+    // Entries that the file does not reach are 0, like those of any added string.
+    document.TuningTable.assign(static_cast<std::size_t>(rows), 0);
     for (std::int16_t& tuning : document.TuningTable)
         if (!readInteger(lines, tuning)) return false;
     return readGrid(lines, document.pool, document.NoteGrid) &&
