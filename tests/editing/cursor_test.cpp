@@ -1,25 +1,13 @@
-// The cursor by key and by mouse, scrolling, and what a new size does.
+// The cursor by key and by mouse.
 #include "editing/key_codes.h"
 #include "tests/editing/fake_host.h"
+
+#include <algorithm>
 
 namespace tabrova::testing {
 namespace {
 
-class Cursor : public EditorTest {
-  protected:
-    void expectAt(int staff, int column, int string, int topStaff) {
-        EXPECT_EQ(document.CurrentStaff, staff);
-        EXPECT_EQ(document.ColumnInStaff, column);
-        EXPECT_EQ(document.CurrentString, string);
-        EXPECT_EQ(document.TopStaff, topStaff);
-        EXPECT_EQ(editor.scroll().value, topStaff + 1);
-        EXPECT_EQ(editor.page().nCursor,
-                  (Rect{29 * column + 22, 100 * (staff - topStaff - 1) + 10 * string + 25, 13, 10}));
-        EXPECT_EQ(editor.page().vLine1.x1, editor.page().nCursor.left + 6);
-        EXPECT_EQ(editor.page().vLine1.y2, editor.page().nCursor.top);
-        EXPECT_EQ(editor.page().NoteLine.x2, editor.page().nCursor.left + 14);
-    }
-};
+using Cursor = EditorTest;
 
 TEST_F(Cursor, RightAtTheEndOfTheDocumentMakesANewStaff) {
     moveTo(1, 31);
@@ -60,6 +48,100 @@ TEST_F(Cursor, LeftAtTheStartChangesNothing) {
     EXPECT_EQ(document.StaffCount, 1);
 }
 
+TEST_F(Cursor, RightAndLeftWithinAStaffMoveByOneColumn) {
+    for (int column = 1; column <= 31; ++column) {
+        editor.MoveCursor(Direction::Right);
+        expectAt(1, column, 0, 0);
+    }
+    for (int column = 30; column >= 0; --column) {
+        editor.MoveCursor(Direction::Left);
+        expectAt(1, column, 0, 0);
+    }
+    EXPECT_EQ(document.StaffCount, 1);
+}
+
+TEST_F(Cursor, RightAtAStaffsEndGoesToTheNextStaffWithoutGrowing) {
+    grow(3);
+    moveTo(1, 31);
+    keys({key::Right});
+    expectAt(2, 0, 0, 0);
+    EXPECT_EQ(document.StaffCount, 3);
+}
+
+TEST_F(Cursor, LeftAtAStaffsStartGoesToTheLastColumnAbove) {
+    grow(3);
+    moveTo(3, 0);
+    keys({key::Down, key::Left});
+    expectAt(2, 31, 1, 0);
+}
+
+TEST_F(Cursor, RightOnAPageOfOneStaffScrollsEveryTime) {
+    resizePage(984, 150);
+    keys({key::Down, key::Down, key::Down});
+    for (int staff = 2; staff <= 5; ++staff) {
+        moveTo(staff, 0);
+        expectAt(staff, 0, 3, staff - 1);
+    }
+    for (int staff = 4; staff >= 1; --staff) {
+        keys({key::Left});
+        expectAt(staff, 31, 3, staff - 1);
+        while (document.ColumnInStaff > 0)
+            keys({key::Left});
+    }
+}
+
+TEST_F(Cursor, AGrownStaffIsEmptyAndTheOldOnesStay) {
+    document.setNote(31, 5, "7");
+    document.setTechnique(31, 5, "h");
+    document.setBarMark(31, "r3");
+    moveTo(1, 31);
+    keys({key::Right});
+    EXPECT_EQ(document.note(31, 5), "7");
+    EXPECT_EQ(document.technique(31, 5), "h");
+    EXPECT_EQ(document.barMark(31), "r3");
+    for (int column = 32; column < 64; ++column) {
+        EXPECT_EQ(document.barMark(column), "");
+        for (int row = 0; row < 6; ++row)
+            EXPECT_EQ(document.note(column, row), "");
+    }
+}
+
+TEST_F(Cursor, TheMovesDoNotLeaveTheTrack) {
+    makeThreeTracks();
+    document.CurrentTrack = 2;
+    for (int step = 0; step < 9; ++step)
+        keys({key::Down});
+    expectAt(1, 0, 5, 0);
+    for (int step = 0; step < 9; ++step)
+        keys({key::Up});
+    expectAt(1, 0, 0, 0);
+    EXPECT_EQ(document.CurrentTrack, 2);
+}
+
+TEST_F(Cursor, TheCurrentColumnFollowsEveryKey) {
+    moveTo(2, 3);
+    keys({key::Right});
+    EXPECT_EQ(document.CurrentColumn, 36);
+    document.CurrentColumn = 999;
+    keys({key::RedrawOnly});
+    EXPECT_EQ(document.CurrentColumn, 36);
+}
+
+TEST_F(Cursor, EveryMoveShowsThePositionOnTheFretboard) {
+    for (const Direction direction :
+         {Direction::Right, Direction::Left, Direction::Up, Direction::Down, Direction::Nowhere}) {
+        host.take();
+        editor.MoveCursor(direction);
+        EXPECT_EQ(host.take().back(), "refreshFretboard");
+    }
+}
+
+TEST_F(Cursor, LeftAtTheStartStillRedrawsThePage) {
+    host.redraws = 0;
+    editor.MoveCursor(Direction::Left);
+    EXPECT_EQ(host.redraws, 1);
+}
+
 TEST_F(Cursor, UpAndDownStopAtTheTrack) {
     keys({key::Up});
     expectAt(1, 0, 0, 0);
@@ -92,6 +174,76 @@ TEST_F(Cursor, AClickIsMappedToItsCell) {
     expectAt(1, 0, 2, 0);
 }
 
+TEST_F(Cursor, AClicksStringIsRoundedHalfToEven) {
+    const int strings[] = {0, 1, 1, 2, 2, 2, 3, 3, 4, 4, 4, 5, 5, 5};
+    const int offsets[] = {0, 6, 14, 15, 16, 25, 26, 34, 35, 44, 45, 46, 54, 55};
+    for (std::size_t each = 0; each < std::size(offsets); ++each) {
+        editor.picDocument_MouseDown(MouseButton::Left, 100, 25 + offsets[each]);
+        EXPECT_EQ(document.CurrentString, strings[each]) << offsets[each];
+        EXPECT_EQ(editor.page().nCursor.top, 25 + 10 * strings[each]) << offsets[each];
+    }
+}
+
+TEST_F(Cursor, AClickOnAScrolledPageCountsFromItsTopStaff) {
+    grow(10);
+    editor.VScroll1_Change(4);
+    editor.picDocument_MouseDown(MouseButton::Left, 22 + 29 * 31, 200 + 25);
+    expectAt(6, 31, 0, 3);
+}
+
+TEST_F(Cursor, EveryButtonPlacesTheCursor) {
+    int column = 3;
+    for (const MouseButton button :
+         {MouseButton::Left, MouseButton::Right, MouseButton::Middle, MouseButton::None}) {
+        editor.picDocument_MouseDown(button, 22 + 29 * column, 25);
+        expectAt(1, column++, 0, 0);
+    }
+    EXPECT_EQ(host.selectorsOpened, 1);
+}
+
+TEST_F(Cursor, AClickBelowTheVisibleStavesMovesNothing) {
+    grow(9);
+    moveTo(2, 4);
+    editor.picDocument_MouseDown(MouseButton::Left, 100, 400 + 25);
+    expectAt(2, 4, 0, 0);
+    editor.picDocument_MouseDown(MouseButton::Left, 100, 400 + 24);
+    expectAt(4, 2, 5, 0);
+}
+
+TEST_F(Cursor, AClickInTheMarginAsksNothingOfTheWindow) {
+    host.take();
+    for (const MouseButton button : {MouseButton::Left, MouseButton::Right})
+        for (const auto& [x, y] : {std::pair{21, 100}, {100, 24}, {-1, -1}})
+            editor.picDocument_MouseDown(button, x, y);
+    EXPECT_TRUE(host.take().empty());
+}
+
+TEST_F(Cursor, ARightClickPlacesTheCursorFirst) {
+    host.take();
+    editor.picDocument_MouseDown(MouseButton::Right, 22 + 29 * 5, 45);
+    expectAt(1, 5, 2, 0);
+    const std::vector<std::string> calls = host.take();
+    EXPECT_EQ(calls.back(), "openNoteSelector");
+    EXPECT_EQ(std::count(calls.begin(), calls.end(), "setTitle"), 1);
+    EXPECT_EQ(host.selectorPlace, (Rect{22 + 29 * 5, 45, 228, 82}));
+}
+
+TEST_F(Cursor, ThePaletteFlipsOnlyWhenItsEdgePassesThePages) {
+    grow(4);
+    editor.picDocument_MouseDown(MouseButton::Right, 984 - 228, 472 - 82);
+    EXPECT_EQ(host.selectorPlace, (Rect{984 - 228, 472 - 82, 228, 82}));
+    editor.picDocument_MouseDown(MouseButton::Right, 984 - 227, 472 - 81);
+    EXPECT_EQ(host.selectorPlace, (Rect{984 - 227 - 238, 472 - 81 - 92, 228, 82}));
+}
+
+TEST_F(Cursor, ThePaletteStaysShutOnPercussionTracks) {
+    makeThreeTracks();
+    document.CurrentTrack = 3;
+    editor.picDocument_MouseDown(MouseButton::Right, 22 + 29 * 5, 45);
+    expectAt(1, 5, 2, 0);
+    EXPECT_EQ(host.selectorsOpened, 0);
+}
+
 TEST_F(Cursor, AClickInAStaffsLowerPartLandsOnStringFive) {
     editor.picDocument_MouseDown(MouseButton::Left, 30, 25 + 99);
     expectAt(1, 0, 5, 0);
@@ -122,47 +274,6 @@ TEST_F(Cursor, ARightClickOpensThePaletteAlsoWhereNothingMoves) {
     EXPECT_EQ(host.selectorsOpened, 2);
 }
 
-TEST_F(Cursor, ScrollingLeavesTheCursorWhereItIsOnTheScreen) {
-    grow(10);
-    moveTo(2, 3);
-    editor.VScroll1_Change(4);
-    expectAt(5, 3, 0, 3);
-    EXPECT_GT(host.focused, 0);
-    editor.VScroll1_Change(99);
-    expectAt(8, 3, 0, 6);
-    editor.VScroll1_Change(-3);
-    expectAt(2, 3, 0, 0);
-}
-
-TEST_F(Cursor, TheScrollRangeFollowsTheStaves) {
-    EXPECT_EQ(editor.scroll().maximum, 1);
-    grow(4);
-    EXPECT_EQ(editor.scroll().maximum, 1);
-    grow(5);
-    EXPECT_EQ(editor.scroll().maximum, 2);
-    grow(10);
-    EXPECT_EQ(editor.scroll().maximum, 7);
-    EXPECT_EQ(host.scrollMaximum, 7);
-}
-
-TEST_F(Cursor, ALowerPagePullsTheCursorBackStaffByStaff) {
-    grow(4);
-    moveTo(4, 2);
-    view.picDocument.resize(984, 230);
-    editor.pageResized();
-    EXPECT_EQ(document.VisibleStaves, 2);
-    EXPECT_LE(editor.page().nCursor.top, 200);
-    expectAt(2, 2, 0, 0);
-}
-
-TEST_F(Cursor, AWiderPageMovesTheCursorWithItsColumn) {
-    moveTo(1, 10);
-    view.picDocument.resize(1904, 472);
-    editor.pageResized();
-    EXPECT_EQ(document.ColumnWidth, 58);
-    EXPECT_EQ(editor.page().nCursor.left, 58 * 10 + 22);
-}
-
 TEST_F(Cursor, ANewDocumentPutsEverythingHome) {
     moveTo(7, 9);
     keys({key::Down, '5'});
@@ -171,31 +282,6 @@ TEST_F(Cursor, ANewDocumentPutsEverythingHome) {
     EXPECT_EQ(host.trackPanel, "Untitled Track selected");
     EXPECT_EQ(host.unloaded, 2); // once at the start of this test
     EXPECT_EQ(document.StaffCount, 1);
-}
-
-TEST_F(Cursor, TheTitleNamesPieceAndAuthor) {
-    document.Title = "A";
-    document.Author = "B";
-    editor.refreshdrawing();
-    EXPECT_EQ(host.title, "Tabrova - A by B");
-}
-
-TEST_F(Cursor, TheStatisticsLineCountsTracksAndStaves) {
-    grow(3);
-    moveTo(2, 0);
-    EXPECT_EQ(host.statistics, "Track 1 of 1, Staff 2 of 3");
-    host.debug = true;
-    keys({key::Right, key::Down});
-    EXPECT_EQ(host.statistics, "horizontal spacing: 29. note number: 33. String number: 1. Total Staves: 3. "
-                               "Staffnum: 2 YSIZE 6 XSIZE 96 "
-                               "XPOS 33 Top Staff 0 visible Staffs 4");
-}
-
-TEST_F(Cursor, TheTechniqueButtonsFollowTheTrack) {
-    EXPECT_TRUE(host.guitarButtons);
-    makePercussionTrack();
-    editor.refreshdrawing();
-    EXPECT_FALSE(host.guitarButtons);
 }
 
 TEST_F(Cursor, ADocumentThatCannotGrowKeepsTheCursorInside) {

@@ -77,36 +77,210 @@ TEST_F(NoteEntry, TheTypedCellIsDrawnAtTheCursor) {
     EXPECT_EQ(view.picDocument.image().copy(29 + 24, 36, 9, 7), view.picSource().image().copy(171, 9, 9, 7));
 }
 
-// The image before, with one sprite put on it.
-QImage withSprite(QImage image, const Surface& sheet, const Rect& source, int x, int y) {
-    for (int row = 0; row < source.height; ++row)
-        for (int column = 0; column < source.width; ++column) {
-            const QPoint at(x + column, y + row);
-            if (!image.rect().contains(at)) continue;
-            image.setPixel(at, image.pixel(at) & sheet.image().pixel(source.left + column, source.top + row));
-        }
-    return image;
-}
-
-TEST_F(NoteEntry, ASeparatorShowsEightPixelsLeftOfWhereTheRedrawPutsIt) {
-    for (const auto& [code, source, offset] :
-         {std::tuple{13, Rect{3, 19, 12, 59}, -14}, {3000, Rect{323, 25, 12, 59}, -22}}) {
-        editor.MakeNewDocument();
-        keys({key::Right, key::Right, key::Down, key::Down, '5'});
-        const int left = editor.page().nCursor.left;
-        const QImage expected =
-            withSprite(view.picDocument.image(), view.picSource(), source, left + offset, 25);
-        editor.DrawAndStoreNote(code);
-        EXPECT_EQ(view.picDocument.image(), expected) << code;
-    }
-}
-
 TEST_F(NoteEntry, AClosedRepeatShowsWhereTheRedrawPutsIt) {
     keys({key::Right, key::Right, '5'});
     editor.DrawAndStoreNote(1009);
     const QImage typed = view.picDocument.image();
     editor.refreshdrawing();
     EXPECT_EQ(typed, view.picDocument.image());
+}
+
+// What a typed code adds to the image, by the tables; the grids hold their new texts already.
+std::vector<SpriteCopy> typedCopies(const Editor& editor, const std::string& text, const std::string& mark,
+                                    int string) {
+    const int left = editor.page().nCursor.left;
+    const int top = editor.page().nCursor.top;
+    const int r = top - 10 * string;
+    std::vector<SpriteCopy> copies;
+    const auto add = [&copies](int x, int y, const Rect& source, Raster raster) {
+        copies.push_back({{x, y, source.width, source.height}, source, raster});
+    };
+    for (int fret = 0; fret <= 29; ++fret)
+        if (text == std::to_string(fret)) add(left + 2, top + 1, {1 + 10 * fret, 1, 9, 7}, Raster::SrcCopy);
+    if (text == "x") add(left + 2, top + 1, {301, 1, 9, 7}, Raster::SrcCopy);
+    if (text.empty()) add(left + 2, top + 1, {331, 1, 9, 7}, Raster::SrcCopy);
+    if (text == ">") add(left + 2, top + 1, {171, 9, 9, 7}, Raster::SrcCopy);
+    if (mark == ".") add(left - 14, r, {3, 19, 12, 59}, Raster::SrcAnd);
+    if (mark == "r") add(left - 22, r, {323, 25, 12, 59}, Raster::SrcAnd);
+    for (int n = 1; n <= 15; ++n) {
+        if (mark != "r" + std::to_string(n)) continue;
+        add(left - 10, r, {340, 25, 12, 59}, Raster::SrcAnd);
+        add(left - 16, r - 8, {258, 62, 9, 7}, Raster::SrcAnd);
+        add(left - 8, r - 8, {188 + 10 * (n <= 8 ? n - 1 : n - 9), n <= 8 ? 54 : 62, 9, 7}, Raster::SrcAnd);
+    }
+    return copies;
+}
+
+TEST_F(NoteEntry, TheTypedCellIsDrawnFirstAndItsColumnsMarkOverIt) {
+    const char* const marks[] = {"", ".", "r", "r1", "r8", "r9", "r15", "r16", "odd"};
+    const int codes[] = {'0', '9', '1', '5', 'X', 'J', 46, 65, 13, 3000, 4000, 1001, 1008, 1009, 1015};
+    for (const char* mark : marks)
+        for (const int code : codes) {
+            editor.MakeNewDocument();
+            grow(2);
+            moveTo(2, 0);
+            keys({key::Right, key::Down, key::Down, key::Down});
+            document.setBarMark(33, mark);
+            document.setNote(33, 3, "12");
+            editor.refreshdrawing();
+            QImage expected = view.picDocument.image();
+            editor.DrawAndStoreNote(code);
+            for (const SpriteCopy& copy :
+                 typedCopies(editor, std::string(noteHere()), std::string(markHere()), 3))
+                carryOut(expected, view.picSource().image(), copy);
+            ASSERT_TRUE(sameImage(view.picDocument.image(), expected, "typed")) << code << " over " << mark;
+        }
+}
+
+TEST_F(NoteEntry, ASeparatorShowsEightPixelsLeftOfWhereTheRedrawPutsIt) {
+    for (const auto& [code, source, redrawn] :
+         {std::tuple{13, Rect{3, 19, 12, 59}, 16}, {3000, Rect{323, 25, 12, 59}, 8}}) {
+        editor.MakeNewDocument();
+        keys({key::Right, key::Right, key::Down, key::Down, '5'});
+        QImage expected = view.picDocument.image();
+        carryOut(expected, view.picSource().image(),
+                 {{29 * 2 + redrawn - 8, 25, 12, 59}, source, Raster::SrcAnd});
+        editor.DrawAndStoreNote(code);
+        EXPECT_TRUE(sameImage(view.picDocument.image(), expected, "separator")) << code;
+        const QImage typed = view.picDocument.image();
+        editor.refreshdrawing();
+        EXPECT_NE(view.picDocument.image(), typed) << code;
+    }
+}
+
+TEST_F(NoteEntry, ACellWithoutAGlyphIsLeftAsItStands) {
+    for (const char* text : {"30", "36", "05", "rubbish"}) {
+        editor.refreshdrawing();
+        document.setNote(0, 0, text);
+        const QImage before = view.picDocument.image();
+        editor.DrawAndStoreNote(4000); // empties the mark: no mark is drawn either
+        EXPECT_EQ(view.picDocument.image(), before) << text;
+        EXPECT_EQ(noteHere(), text);
+    }
+}
+
+TEST_F(NoteEntry, ATypedNoteNeitherRedrawsNorShowsNorMoves) {
+    document.RealtimeMode = 1;
+    host.take();
+    editor.DrawAndStoreNote('5');
+    EXPECT_TRUE(host.take().empty());
+    expectAt(1, 0, 0, 0);
+}
+
+TEST_F(NoteEntry, TheKeyHandlerRedrawsThenRepaintsThenRewritesTheLine) {
+    host.take();
+    keys({'5'});
+    const std::vector<std::string> calls = host.take();
+    ASSERT_GE(calls.size(), 3u);
+    const std::vector<std::string> end(calls.end() - 3, calls.end());
+    EXPECT_EQ(end, (std::vector<std::string>{"setTitle", "refreshPage", "setStatistics"}));
+}
+
+TEST_F(NoteEntry, OneCodeChangesOneCell) {
+    keys({key::Right, key::Down});
+    for (int column = 0; column < 32; ++column)
+        for (int row = 0; row < 6; ++row) {
+            document.setNote(column, row, "3");
+            document.setTechnique(column, row, "s");
+        }
+    editor.DrawAndStoreNote('7');
+    for (int column = 0; column < 32; ++column) {
+        EXPECT_EQ(document.barMark(column), "");
+        for (int row = 0; row < 6; ++row) {
+            EXPECT_EQ(document.note(column, row), column == 1 && row == 1 ? "7" : "3");
+            EXPECT_EQ(document.technique(column, row), "s");
+        }
+    }
+}
+
+TEST_F(NoteEntry, ANoteOfAnyKindIsOverwritten) {
+    for (const char* old : {"x", ">", "12", "22", "30", "rubbish", " 1", "1.0"}) {
+        document.setNote(0, 0, old);
+        editor.DrawAndStoreNote('7');
+        EXPECT_EQ(noteHere(), "7") << old;
+    }
+    editor.DrawAndStoreNote('X');
+    EXPECT_EQ(noteHere(), "x");
+    editor.DrawAndStoreNote('J');
+    EXPECT_EQ(noteHere(), ">");
+}
+
+TEST_F(NoteEntry, ABarMarkLeavesTheNoteAndANoteLeavesTheMark) {
+    document.setNote(0, 0, "1");
+    for (const int code : {13, 3000, 4000, 1001, 1015}) {
+        editor.DrawAndStoreNote(code);
+        EXPECT_EQ(noteHere(), "1") << code;
+    }
+    editor.DrawAndStoreNote('2');
+    EXPECT_EQ(markHere(), "r15");
+    EXPECT_EQ(noteHere(), "12");
+}
+
+TEST_F(NoteEntry, TheColumnIsTakenFromTheCursor) {
+    grow(2);
+    document.CurrentColumn = 7;
+    document.CurrentStaff = 2;
+    document.ColumnInStaff = 4;
+    editor.DrawAndStoreNote('5');
+    EXPECT_EQ(document.note(36, 0), "5");
+    EXPECT_EQ(document.note(7, 0), "");
+}
+
+TEST_F(NoteEntry, AllNotesStopBeforeTheColumnSoundsWithItsChord) {
+    document.RealtimeMode = 2;
+    editor.modes.powerChord = true;
+    for (int step = 0; step < 5; ++step)
+        editor.MoveCursor(Direction::Down);
+    document.setNote(0, 0, "x");
+    device.take();
+    keys({'5'});
+    std::vector<ShortMessage> sent = device.take();
+    ASSERT_EQ(sent.size(), 18u + 3u);
+    EXPECT_EQ(sent.front(), (ShortMessage{0xB0, 120, 0}));
+    sent.erase(sent.begin(), sent.begin() + 18);
+    EXPECT_EQ(sent, (std::vector<ShortMessage>{{0x90, 57, 127}, {0x90, 52, 127}, {0x90, 45, 127}}));
+}
+
+TEST_F(NoteEntry, WithoutPreviewATypedNoteStillStopsAllNotes) {
+    device.take();
+    editor.DrawAndStoreNote('5');
+    EXPECT_EQ(device.take().size(), 18u);
+}
+
+TEST_F(NoteEntry, TheChordsOtherNotesAppearWithTheNextRedraw) {
+    editor.modes.powerChord = true;
+    for (int step = 0; step < 4; ++step)
+        editor.MoveCursor(Direction::Down);
+    const QImage upper = view.picDocument.image().copy(0, 0, 984, 65);
+    editor.DrawAndStoreNote('5');
+    EXPECT_EQ(document.note(0, 3), "7");
+    EXPECT_EQ(view.picDocument.image().copy(0, 0, 984, 65), upper);
+    editor.refreshdrawing();
+    EXPECT_EQ(view.picDocument.image().copy(24, 56, 9, 7), view.picSource().image().copy(71, 1, 9, 7));
+}
+
+TEST_F(NoteEntry, AChordStaysOnItsTrack) {
+    makeThreeTracks();
+    document.CurrentTrack = 2;
+    editor.modes.powerChord = true;
+    for (int step = 0; step < 4; ++step)
+        editor.MoveCursor(Direction::Down);
+    keys({'5'});
+    for (int row = 0; row < 18; ++row)
+        EXPECT_EQ(document.note(0, row), row == 10 ? "5" : row == 9 || row == 8 ? "7" : "") << row;
+}
+
+TEST_F(NoteEntry, APowerChordOverwritesTheStringsAbove) {
+    editor.modes.powerChord = true;
+    document.setNote(0, 4, "x");
+    document.setNote(0, 3, "1");
+    document.setTechnique(0, 3, "v");
+    for (int step = 0; step < 5; ++step)
+        editor.MoveCursor(Direction::Down);
+    keys({'0'});
+    EXPECT_EQ(document.note(0, 4), "2");
+    EXPECT_EQ(document.note(0, 3), "2");
+    EXPECT_EQ(document.technique(0, 3), "v");
 }
 
 TEST_F(NoteEntry, PowerChordsGrowFromTheTwoLowestStringsOnly) {
@@ -177,6 +351,26 @@ TEST_F(NoteEntry, ADrumIsStoredSoundedAndTheWholePageRedrawn) {
     EXPECT_EQ(view.picDocument.image().copy(24, 26, 9, 7), view.picSource().image().copy(171, 9, 9, 7));
 }
 
+TEST_F(NoteEntry, ADrumReplacesTheCellWhateverStoodThere) {
+    makePercussionTrack();
+    for (const char* old : {"1", "2", "x", "40"}) {
+        document.setNote(0, 0, old);
+        editor.DrawAndStorePercussionNote(38);
+        EXPECT_EQ(noteHere(), "38") << old;
+    }
+}
+
+TEST_F(NoteEntry, ADrumSoundsInEveryPreviewModeAndStartsNoStopper) {
+    makePercussionTrack();
+    for (const int mode : {0, 1, 2}) {
+        document.RealtimeMode = static_cast<std::int16_t>(mode);
+        device.take();
+        editor.DrawAndStorePercussionNote(35);
+        EXPECT_EQ(device.take(), (std::vector<ShortMessage>{{0x99, 35, 127}}));
+    }
+    EXPECT_EQ(host.stopper, 0);
+}
+
 TEST_F(NoteEntry, TheRepeatPanelOpensBesideTheCursorAndFlipsAtThePagesEdges) {
     editor.DrawAndStoreNote(4000);
     EXPECT_EQ(host.opened, Panel::Repeat);
@@ -188,6 +382,27 @@ TEST_F(NoteEntry, TheRepeatPanelOpensBesideTheCursorAndFlipsAtThePagesEdges) {
     moveTo(3, 0);
     editor.DrawAndStoreNote(4000);
     EXPECT_EQ(host.panelPlace.top, 225 + 10 + 2 + 204 - 62); // 441 + 62 passes the page's height of 472
+}
+
+TEST_F(NoteEntry, ThePanelFlipsOnlyWhenItsEdgePassesThePages) {
+    host.repeatPanel = {0, 0, 984 - 37, 472 - 241};
+    editor.DrawAndStoreNote(4000);
+    EXPECT_EQ(host.panelPlace, (Rect{37, 241, 984 - 37, 472 - 241}));
+    host.repeatPanel = {0, 0, 984 - 36, 472 - 240};
+    editor.DrawAndStoreNote(4000);
+    EXPECT_EQ(host.panelPlace, (Rect{37 - (984 - 36), 241 - (472 - 240), 984 - 36, 472 - 240}));
+}
+
+TEST_F(NoteEntry, ThePanelIsPlacedInTheWindow) {
+    host.page = {12, 38, 984, 472};
+    editor.DrawAndStoreNote(4000);
+    EXPECT_EQ(host.panelPlace, (Rect{37 + 12, 37 + 38, 170, 62}));
+}
+
+TEST_F(NoteEntry, OnlyItsOwnCodeOpensTheRepeatPanel) {
+    for (const int code : std::initializer_list<int>{'5', 13, 46, 3000, 1001, 1015, 65})
+        editor.DrawAndStoreNote(code);
+    EXPECT_EQ(host.opened, std::nullopt);
 }
 
 TEST_F(NoteEntry, TheBendPanelOpensInTheSamePlace) {
@@ -205,40 +420,6 @@ TEST_F(NoteEntry, TypingStartsTheStopperForTwoColumns) {
     document.RealtimeMode = 2;
     keys({'5'});
     EXPECT_EQ(host.stopper, 17143);
-    host.stopper = 0;
-    document.RealtimeMode = 1;
-    keys({'5'});
-    EXPECT_EQ(host.stopper, 0);
-    document.RealtimeMode = 0;
-    document.Tempo = 0;
-    keys({'5'});
-    EXPECT_EQ(host.stopper, 0);
-}
-
-TEST_F(NoteEntry, BendCodesStoreTheirTexts) {
-    const char* const texts[] = {"p0.5", "p1.0", "p1.5", "p2.0", "p2.5", "p3.0",
-                                 "b0.5", "b1.0", "b1.5", "b2.0", "b2.5", "b3.0"};
-    for (int code = 1200; code <= 1211; ++code) {
-        editor.StoreTechnique(code);
-        EXPECT_EQ(techniqueHere(), texts[code - 1200]);
-    }
-    editor.StoreTechnique(1212);
-    EXPECT_EQ(techniqueHere(), "");
-}
-
-TEST_F(NoteEntry, IntelligentModeMovesAfterHammerAndTapOnly) {
-    editor.modes.intelligent = true;
-    for (const int code : std::initializer_list<int>{'S', 'V', 'W', 'D', 'G', 'M', 'F', 'L', 'O', 'R', 'Z',
-                                                     'K', '5', 'X', 13, 46}) {
-        keys({code});
-        EXPECT_EQ(document.ColumnInStaff, 0) << code;
-    }
-    keys({'H'});
-    EXPECT_EQ(document.technique(0, 0), "h");
-    EXPECT_EQ(document.ColumnInStaff, 1);
-    keys({'T'});
-    EXPECT_EQ(document.technique(1, 0), "t");
-    EXPECT_EQ(document.ColumnInStaff, 2);
 }
 
 } // namespace

@@ -6,74 +6,196 @@
 namespace tabrova {
 namespace {
 
+using Operation = RecordingMidiDevice::Operation;
+
 class MidiBytes : public ::testing::Test {
   protected:
     MidiBytes() { output.OpenMidiDevice(MidiMapperId); }
 
+    static std::uint8_t byte(int value) { return static_cast<std::uint8_t>(value); }
+
     using Messages = std::vector<ShortMessage>;
     RecordingMidiDevice device;
-    int failures = 0;
-    MidiOutput output{device, [this](int) { ++failures; }};
+    std::vector<int> failures;
+    MidiOutput output{device, [this](int code) { failures.push_back(code); }};
 };
 
-TEST_F(MidiBytes, NoteOnAndNoteOff) {
-    output.NoteOn(9, 38, 100);
-    output.NoteOff(1, 60);
-    EXPECT_EQ(device.take(), (Messages{{0x99, 38, 100}, {0x91, 60, 0}}));
+// Its opening and closing are written down in their order.
+class LoggingMidiDevice : public SilentMidiDevice {
+  public:
+    int open(int id) override {
+        log.push_back("open " + std::to_string(id));
+        return openResult;
+    }
+    int close() override {
+        log.push_back("close");
+        return closeResult;
+    }
+    int send(const ShortMessage&) override {
+        log.push_back("send");
+        return sendResult;
+    }
+
+    std::vector<std::string> log;
+    int openResult = 0, closeResult = 0, sendResult = 0;
+};
+
+TEST_F(MidiBytes, ANoteOnIsChannelNoteAndVelocity) {
+    for (int channel = 0; channel < 16; ++channel) {
+        output.NoteOn(channel, 38, 100);
+        EXPECT_EQ(device.take(), (Messages{{byte(0x90 + channel), 38, 100}}));
+    }
 }
 
-TEST_F(MidiBytes, AProgramChangeIsAlwaysTwoMessagesWithTheBankOverTheLegalRange) {
-    output.ProgramChange(0, 24);
-    output.ProgramChange(0, 24);
-    EXPECT_EQ(device.take(), (Messages{{0xB0, 0, 0x80}, {0xC0, 24, 0}, {0xB0, 0, 0x80}, {0xC0, 24, 0}}));
+TEST_F(MidiBytes, ANoteOffIsANoteOnWithoutVelocity) {
+    for (int channel = 0; channel < 16; ++channel) {
+        output.NoteOff(channel, 60);
+        EXPECT_EQ(device.take(), (Messages{{byte(0x90 + channel), 60, 0}}));
+    }
 }
 
-TEST_F(MidiBytes, AControllerAndAChannelsSilence) {
-    output.ControlChange(14, 7, 90);
-    output.ChannelNotesOff(3);
-    EXPECT_EQ(device.take(), (Messages{{0xBE, 7, 90}, {0xB3, 120, 0}, {0xB3, 123, 0}}));
+TEST_F(MidiBytes, AControllerIsChannelControllerAndValue) {
+    for (int channel = 0; channel < 16; ++channel) {
+        output.ControlChange(channel, 7, 90);
+        EXPECT_EQ(device.take(), (Messages{{byte(0xB0 + channel), 7, 90}}));
+    }
+}
+
+TEST_F(MidiBytes, AProgramChangeIsAlwaysTheBankAndThenTheProgram) {
+    for (int channel = 0; channel < 16; ++channel) {
+        output.ProgramChange(channel, 24);
+        EXPECT_EQ(device.take(), (Messages{{byte(0xB0 + channel), 0, 0x80}, {byte(0xC0 + channel), 24, 0}}));
+    }
+    output.ProgramChange(0, 24);
+    output.ProgramChange(0, 24);
+    EXPECT_EQ(device.take().size(), 4u);
+}
+
+TEST_F(MidiBytes, TheBanksByteStandsOneOverTheLegalRange) {
+    EXPECT_EQ(output.BankValue, 128);
+    output.BankValue = 3;
+    output.ProgramChange(2, 127);
+    EXPECT_EQ(device.take(), (Messages{{0xB2, 0, 3}, {0xC2, 127, 0}}));
+}
+
+TEST_F(MidiBytes, TheToolsVelocityIsFull) { EXPECT_EQ(output.FixedVelocity, 127); }
+
+TEST_F(MidiBytes, SilencingAChannelIsTwoControllers) {
+    for (int channel = 0; channel < 16; ++channel) {
+        output.ChannelNotesOff(channel);
+        EXPECT_EQ(device.take(), (Messages{{byte(0xB0 + channel), 120, 0}, {byte(0xB0 + channel), 123, 0}}));
+    }
 }
 
 TEST_F(MidiBytes, AllNotesOffStopsAtChannelEight) {
     output.AllNotesOff();
     Messages expected;
-    for (std::uint8_t channel = 0; channel <= 8; ++channel) {
-        const auto status = static_cast<std::uint8_t>(0xB0 + channel);
-        expected.push_back({status, 120, 0});
-        expected.push_back({status, 123, 0});
+    for (int channel = 0; channel <= 8; ++channel) {
+        expected.push_back({byte(0xB0 + channel), 120, 0});
+        expected.push_back({byte(0xB0 + channel), 123, 0});
     }
+    EXPECT_EQ(expected.size(), 18u);
     EXPECT_EQ(device.take(), expected);
 }
 
-TEST_F(MidiBytes, NothingIsClipped) {
+TEST_F(MidiBytes, AMessageIsPackedWithItsFirstByteLowest) {
     EXPECT_EQ(PackShortMessage(0x90, 60, 127), 0x90u + 60 * 256 + 127 * 65536);
+    EXPECT_EQ(PackShortMessage(0xB0, 0, 128), 0x008000B0u);
+    EXPECT_EQ(PackShortMessage(0, 0, 0), 0u);
+}
+
+TEST_F(MidiBytes, NothingIsClipped) {
     output.NoteOn(0, 200, 130);
+    EXPECT_EQ(device.take(), (Messages{{0x90, 200, 130}}));
+}
+
+TEST_F(MidiBytes, AValueOverOneByteRunsOnIntoTheNext) {
     output.NoteOn(0, 300, 1);
     output.NoteOn(0, -1, 1);
-    EXPECT_EQ(device.take(), (Messages{{0x90, 200, 130}, {0x90, 44, 2}, {0x90, 255, 0}}));
+    EXPECT_EQ(device.take(), (Messages{{0x90, 44, 2}, {0x90, 255, 0}}));
 }
 
-TEST_F(MidiBytes, FailuresAreReported) {
-    using Operation = RecordingMidiDevice::Operation;
+TEST_F(MidiBytes, SuccessIsNotReported) {
+    output.NoteOn(0, 60, 1);
+    output.AllNotesOff();
+    output.OpenMidiDevice(0);
+    output.CloseMidiDevice();
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(MidiBytes, AFailingSendIsReportedOnceAMessage) {
     device.setFailing(Operation::Send, true);
     output.NoteOn(0, 60, 1);
-    EXPECT_EQ(failures, 1);
-    device.setFailing(Operation::Close, true);
-    output.CloseMidiDevice();
-    EXPECT_EQ(failures, 2);
-    EXPECT_FALSE(output.isOpen());
-    device.setFailing(Operation::Open, true);
-    EXPECT_FALSE(output.OpenMidiDevice(0));
-    EXPECT_EQ(failures, 3);
+    EXPECT_EQ(failures, std::vector<int>(1, 1));
+    output.ProgramChange(0, 5);
+    EXPECT_EQ(failures.size(), 3u);
+    output.AllNotesOff();
+    EXPECT_EQ(failures.size(), 21u);
 }
 
-TEST_F(MidiBytes, SendingWithNoOpenDeviceFails) {
+TEST_F(MidiBytes, AFailingCloseIsReportedAndLeavesNothingOpen) {
+    device.setFailing(Operation::Close, true);
+    output.CloseMidiDevice();
+    EXPECT_EQ(failures, std::vector<int>(1, 1));
+    EXPECT_FALSE(output.isOpen());
+}
+
+TEST_F(MidiBytes, AFailingOpenIsReportedAndGivesFalse) {
+    device.setFailing(Operation::Open, true);
+    EXPECT_FALSE(output.OpenMidiDevice(0));
+    EXPECT_EQ(failures, std::vector<int>(1, 1));
+    EXPECT_FALSE(output.isOpen());
+}
+
+TEST_F(MidiBytes, SendingWithNoOpenDeviceFailsForEveryMessage) {
     output.CloseMidiDevice();
     output.AllNotesOff();
-    EXPECT_EQ(failures, 18);
+    EXPECT_EQ(failures.size(), 18u);
     EXPECT_TRUE(device.take().empty());
+}
+
+TEST_F(MidiBytes, ClosingWhatIsNotOpenDoesNothing) {
     output.CloseMidiDevice();
-    EXPECT_EQ(failures, 18);
+    device.setFailing(Operation::Close, true);
+    output.CloseMidiDevice();
+    EXPECT_TRUE(failures.empty());
+}
+
+TEST(MidiDevices, AreClosedBeforeAnotherOpens) {
+    LoggingMidiDevice device;
+    MidiOutput output(device, [](int) { ADD_FAILURE(); });
+    EXPECT_FALSE(output.isOpen());
+    EXPECT_TRUE(output.OpenMidiDevice(MidiMapperId));
+    EXPECT_TRUE(output.OpenMidiDevice(2));
+    output.CloseMidiDevice();
+    output.CloseMidiDevice();
+    EXPECT_EQ(device.log, (std::vector<std::string>{"open -1", "close", "open 2", "close"}));
+}
+
+TEST(MidiDevices, OpenEvenIfTheOldOneDidNotClose) {
+    LoggingMidiDevice device;
+    std::vector<int> failures;
+    MidiOutput output(device, [&failures](int code) { failures.push_back(code); });
+    output.OpenMidiDevice(0);
+    device.closeResult = 5;
+    EXPECT_TRUE(output.OpenMidiDevice(1));
+    EXPECT_EQ(failures, std::vector<int>(1, 5));
+    EXPECT_EQ(device.log, (std::vector<std::string>{"open 0", "close", "open 1"}));
+}
+
+TEST(MidiDevices, TellTheirOwnErrorCodes) {
+    LoggingMidiDevice device;
+    std::vector<int> failures;
+    MidiOutput output(device, [&failures](int code) { failures.push_back(code); });
+    device.openResult = 2;
+    EXPECT_FALSE(output.OpenMidiDevice(0));
+    device.openResult = 0;
+    EXPECT_TRUE(output.OpenMidiDevice(0));
+    device.sendResult = 67;
+    output.NoteOn(0, 1, 1);
+    device.closeResult = 65;
+    output.CloseMidiDevice();
+    EXPECT_EQ(failures, (std::vector<int>{2, 67, 65}));
 }
 
 } // namespace

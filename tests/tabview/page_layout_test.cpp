@@ -1,66 +1,11 @@
 // A redraw's copies, exactly and in order, and the pixels that they make.
-#include "core/document_operations.h"
 #include "tabview/tab_view.h"
+#include "tests/tabview/page_helpers.h"
+#include "tests/tabview/plain_blitter.h"
 #include "tests/tabview/plain_layout.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
-
-namespace tabrova {
-
-void PrintTo(const SpriteCopy& copy, std::ostream* out) {
-    *out << "to " << copy.place.left << ',' << copy.place.top << ' ' << copy.place.width << 'x'
-         << copy.place.height << " from " << copy.source.left << ',' << copy.source.top << ' '
-         << copy.source.width << 'x' << copy.source.height
-         << (copy.raster == Raster::SrcCopy ? " copy" : " and");
-}
-
-namespace testing {
+namespace tabrova::testing {
 namespace {
-
-void makePage(Document& document, int tracks, int staves, int pageWidth, int pageHeight) {
-    resetToNewDocument(document);
-    document.TrackCount = static_cast<std::int16_t>(tracks);
-    document.StaffCount = static_cast<std::int16_t>(staves);
-    document.GuitarTrackFlags.assign(static_cast<std::size_t>(tracks), True16);
-    ResizeGrids(document, staves * 32, tracks * 6);
-    document.ColumnWidth = columnWidth(pageWidth);
-    document.VisibleStaves = visibleStaves(pageHeight);
-}
-
-std::vector<SpriteCopy> layout(const Document& document, int pageWidth) {
-    std::vector<SpriteCopy> copies;
-    layoutPage(copies, document, pageWidth);
-    return copies;
-}
-
-// Everything but the three copies of the staff itself.
-std::vector<SpriteCopy> marksOf(const Document& document, int pageWidth) {
-    std::vector<SpriteCopy> copies = layout(document, pageWidth);
-    copies.erase(copies.begin(), copies.begin() + 2);
-    copies.pop_back();
-    return copies;
-}
-
-const char* const Techniques[] = {"h",    "s",    "v",    "w",    "d",    ".",    "g",    "m",
-                                  "f",    "t",    "l",    "o",    "r",    "\xB2", "p0.5", "p1.0",
-                                  "p1.5", "p2.0", "p2.5", "p3.0", "b0.5", "b1.0", "b1.5", "b2.0",
-                                  "b2.5", "b3.0", "?",    "p4.0", "hh"};
-
-void fillAtRandom(Document& document, std::mt19937& random, int filledOf100) {
-    const auto choose = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
-    const char* const others[] = {"x", ">", "30", "34", "35", "64", "81", "82", "007", "1.5", "no"};
-    for (int column = 0; column < document.ColumnCapacity; ++column) {
-        if (choose(7) == 0)
-            document.setBarMark(column, choose(3) ? "r" + std::to_string(choose(17)) : choose(1) ? "." : "r");
-        for (int row = 0; row < document.RowCapacity; ++row) {
-            if (choose(99) < filledOf100)
-                document.setNote(column, row, choose(5) ? std::to_string(choose(85)) : others[choose(10)]);
-            if (choose(99) < filledOf100) document.setTechnique(column, row, Techniques[choose(28)]);
-        }
-    }
-}
 
 TEST(PageLayout, AnEmptyStaffIsItsThreeCopies) {
     Document document;
@@ -86,31 +31,59 @@ TEST(PageLayout, StopsAtTheLastStaffAndAtTheLastVisibleOne) {
     EXPECT_EQ(layoutPage(copies, document, 984), 4);
 }
 
+TEST(PageLayout, VisitsOnlyTheVisibleStaves) {
+    Document document;
+    makePage(document, 1, 9, 984, 230);
+    document.TopStaff = 3;
+    for (int staff = 0; staff < 9; ++staff)
+        document.setNote(staff * 32 + 1, 2, std::to_string(staff));
+    std::vector<SpriteCopy> glyphs;
+    for (const SpriteCopy& copy : layout(document, 984))
+        if (copy.place.width == 9) glyphs.push_back(copy);
+    EXPECT_EQ(glyphs, (std::vector<SpriteCopy>{{{53, 46, 9, 7}, {31, 1, 9, 7}, Raster::SrcCopy},
+                                               {{53, 146, 9, 7}, {41, 1, 9, 7}, Raster::SrcCopy}}));
+}
+
+TEST(PageLayout, EmptiesItsListFirst) {
+    Document document;
+    makePage(document, 1, 1, 984, 472);
+    std::vector<SpriteCopy> copies(7);
+    EXPECT_EQ(layoutPage(copies, document, 984), 1);
+    EXPECT_EQ(copies.size(), 3u);
+}
+
+TEST(PageLayout, GoesColumnFirstStringSecondAndGlyphMarkTechniqueWithin) {
+    Document document;
+    makePage(document, 1, 1, 984, 472);
+    document.setNote(0, 0, "1");
+    document.setTechnique(0, 0, "m");
+    document.setNote(0, 5, "x");
+    document.setBarMark(0, "r");
+    document.setNote(1, 0, "29");
+    document.setTechnique(1, 4, ".");
+    const SpriteCopy repeat = {{8, 25, 12, 59}, {323, 25, 12, 59}, Raster::SrcAnd};
+    const std::vector<SpriteCopy> expected = {
+        {{24, 26, 9, 7}, {11, 1, 9, 7}, Raster::SrcCopy},
+        repeat,
+        {{32, 23, 26, 12}, {197, 107, 26, 12}, Raster::SrcAnd},
+        repeat,
+        repeat,
+        repeat,
+        repeat,
+        {{24, 76, 9, 7}, {301, 1, 9, 7}, Raster::SrcCopy},
+        repeat,
+        {{53, 26, 9, 7}, {291, 1, 9, 7}, Raster::SrcCopy},
+        {{66, 69, 4, 4}, {30, 85, 4, 4}, Raster::SrcAnd},
+    };
+    EXPECT_EQ(marksOf(document, 984), expected);
+}
+
 TEST(PageLayout, ABarMarkIsDrawnSixTimesInItsColumn) {
     Document document;
     makePage(document, 1, 1, 984, 472);
     document.setBarMark(3, ".");
     EXPECT_EQ(marksOf(document, 984),
               std::vector<SpriteCopy>(6, {{29 * 3 + 16, 25, 12, 59}, {3, 19, 12, 59}, Raster::SrcAnd}));
-}
-
-TEST(PageLayout, EachMarkStandsAtItsOwnDistance) {
-    Document document;
-    makePage(document, 1, 1, 984, 472);
-    document.setBarMark(0, ".");
-    document.setBarMark(1, "r");
-    document.setBarMark(2, "r1");
-    document.setBarMark(3, "r15");
-    document.setBarMark(4, "r16");
-    document.setBarMark(5, "R");
-    const std::vector<SpriteCopy> marks = marksOf(document, 984);
-    ASSERT_EQ(marks.size(), 6u + 6 + 18 + 18);
-    EXPECT_EQ(marks[0].place, (Rect{16, 25, 12, 59}));
-    EXPECT_EQ(marks[6].place, (Rect{29 + 8, 25, 12, 59}));
-    EXPECT_EQ(marks[12].place, (Rect{58 + 12, 25, 12, 59}));
-    EXPECT_EQ(marks[13], (SpriteCopy{{58 + 6, 17, 9, 7}, {258, 62, 9, 7}, Raster::SrcAnd}));
-    EXPECT_EQ(marks[14], (SpriteCopy{{58 + 14, 17, 9, 7}, {188, 54, 9, 7}, Raster::SrcAnd}));
-    EXPECT_EQ(marks[32], (SpriteCopy{{87 + 14, 17, 9, 7}, {248, 62, 9, 7}, Raster::SrcAnd}));
 }
 
 TEST(PageLayout, OnlyTheCurrentTrackIsShown) {
@@ -131,35 +104,28 @@ TEST(PageLayout, DrumsAreDrawnOnPercussionTracksOnly) {
     EXPECT_TRUE(marksOf(document, 984).empty());
     document.GuitarTrackFlags[0] = False16;
     EXPECT_EQ(marksOf(document, 984).at(0).source, (Rect{171, 9, 9, 7}));
+}
+
+TEST(PageLayout, FretsAndDeadNotesAreDrawnOnPercussionTracksToo) {
+    Document document;
+    makePage(document, 1, 1, 984, 472);
+    document.GuitarTrackFlags[0] = False16;
     document.setNote(0, 0, "12");
-    EXPECT_EQ(marksOf(document, 984).at(0).source, (Rect{121, 1, 9, 7}));
+    document.setNote(0, 1, "x");
+    const std::vector<SpriteCopy> marks = marksOf(document, 984);
+    ASSERT_EQ(marks.size(), 2u);
+    EXPECT_EQ(marks[0].source, (Rect{121, 1, 9, 7}));
+    EXPECT_EQ(marks[1].source, (Rect{301, 1, 9, 7}));
 }
 
-TEST(PageLayout, EveryTechniqueHasItsRow) {
-    for (const char* technique : Techniques) {
-        Document document;
-        makePage(document, 1, 1, 984, 472);
-        document.setTechnique(4, 2, technique);
-        EXPECT_EQ(layout(document, 984), PlainLayout(document, 984).run()) << technique;
-    }
-}
-
-TEST(PageLayout, AnArcEndsOverTheNextNoteOrTheNinthColumn) {
-    for (const char* technique : {"h", "t"}) {
-        for (int distance = 1; distance < 14; ++distance) {
-            Document document;
-            makePage(document, 1, 1, 984, 472);
-            document.setTechnique(2, 1, technique);
-            document.setNote(2 + distance, 1, "5");
-            document.setNote(3, 2, "5"); // another string does not count
-            const int left = 2 * 29 + (*technique == 'h' ? 37 : 35);
-            const int reach = std::min(distance, 9);
-            bool found = false;
-            for (const SpriteCopy& copy : layout(document, 984))
-                found |= copy.place == Rect{left, 33, 29 * reach - 13, 12};
-            EXPECT_TRUE(found) << technique << distance;
-        }
-    }
+TEST(PageLayout, TextsWithoutAGlyphDrawNothing) {
+    Document document;
+    makePage(document, 1, 1, 984, 472);
+    document.setNote(0, 0, "30");
+    document.setNote(0, 1, "36");
+    document.setNote(0, 2, "05");
+    document.setNote(0, 3, "X");
+    EXPECT_TRUE(marksOf(document, 984).empty());
 }
 
 TEST(PageLayout, AnArcLooksIntoTheNextStaffAndPastTheEnd) {
@@ -173,16 +139,6 @@ TEST(PageLayout, AnArcLooksIntoTheNextStaffAndPastTheEnd) {
             EXPECT_EQ(layout(document, 984), PlainLayout(document, 984).run()) << technique << column;
         }
     }
-}
-
-TEST(PageLayout, NothingIsLeftOfAMarkInANarrowColumn) {
-    Document document;
-    makePage(document, 1, 1, 984, 472);
-    document.ColumnWidth = 13;
-    document.setTechnique(0, 0, "s");
-    document.setTechnique(1, 0, "h");
-    document.setNote(2, 0, "5");
-    EXPECT_EQ(marksOf(document, 984).size(), 1u);
 }
 
 TEST(PageLayout, AgreesWithAPlainRestatementOnRandomPages) {
@@ -199,38 +155,62 @@ TEST(PageLayout, AgreesWithAPlainRestatementOnRandomPages) {
     }
 }
 
-// One pixel at a time, by the meaning of the two raster operations.
-void blit(QImage& to, const QImage& from, const SpriteCopy& copy) {
-    for (int y = 0; y < copy.place.height; ++y)
-        for (int x = 0; x < copy.place.width; ++x) {
-            const QPoint at(copy.place.left + x, copy.place.top + y);
-            if (!to.rect().contains(at)) continue;
-            const QRgb source = from.pixel(copy.source.left + x * copy.source.width / copy.place.width,
-                                           copy.source.top + y * copy.source.height / copy.place.height);
-            to.setPixel(at, copy.raster == Raster::SrcCopy ? source : source & to.pixel(at));
-        }
+// The page of `document` at this scale, and its copies carried out by the naive blitter.
+void expectPixels(const Document& document, int pageWidth, int pageHeight, int scale,
+                  const std::string& name) {
+    TabView view;
+    view.picDocument.resize(pageWidth, pageHeight);
+    view.setScale(scale);
+    view.picDocument.Cls();
+    view.drawStaves(document);
+    QImage expected(QSize(pageWidth, pageHeight) * scale, QImage::Format_RGB32);
+    expected.fill(qRgb(255, 254, 242));
+    for (const SpriteCopy& copy : PlainLayout(document, pageWidth).run())
+        carryOut(expected, view.picSource().image(), copy, scale);
+    ASSERT_TRUE(sameImage(view.picDocument.image(), expected, name));
 }
 
 TEST(PagePixels, AreThoseOfTheCopiesInOrder) {
     std::mt19937 random(8);
-    for (int run = 0; run < 8; ++run) {
-        TabView view;
-        view.picDocument.resize(984, 330);
+    int run = 0;
+    for (const int pageWidth : {640, 767, 984, 1307, 1904})
+        for (const bool guitar : {true, false}) {
+            Document document;
+            makePage(document, 1, 4, pageWidth, 330);
+            fillAtRandom(document, random, 30);
+            document.GuitarTrackFlags[0] = boolean16(guitar);
+            expectPixels(document, pageWidth, 330, 1, "page" + std::to_string(run++));
+        }
+}
+
+TEST(PagePixels, AreThoseOfTheCopiesAtScaleTwoAndThree) {
+    std::mt19937 random(9);
+    for (const int scale : {2, 3}) {
         Document document;
-        makePage(document, 1, 4, 984, 330);
-        fillAtRandom(document, random, 30);
-        document.GuitarTrackFlags[0] = boolean16(run % 2 == 0);
-        view.picDocument.Cls();
-        view.drawStaves(document);
-        QImage expected(984, 330, QImage::Format_RGB32);
-        expected.fill(qRgb(255, 254, 242));
-        for (const SpriteCopy& copy : PlainLayout(document, 984).run())
-            blit(expected, view.picSource().image(), copy);
-        if (view.picDocument.image() == expected) continue;
-        view.picDocument.image().save("page_actual.png");
-        expected.save("page_expected.png");
-        FAIL() << "see page_actual.png and page_expected.png, run " << run;
+        makePage(document, 1, 2, 984, 210);
+        fillAtRandom(document, random, 40);
+        expectPixels(document, 984, 210, scale, "page_scale" + std::to_string(scale));
     }
+}
+
+TEST(PagePixels, OfAPageLowerThanItsStaffAreCut) {
+    std::mt19937 random(10);
+    Document document;
+    makePage(document, 1, 2, 984, 57);
+    fillAtRandom(document, random, 40);
+    expectPixels(document, 984, 57, 1, "page_low");
+}
+
+TEST(PagePixels, BelowTheLastStaffStayBlank) {
+    TabView view;
+    view.picDocument.resize(984, 472);
+    Document document;
+    makePage(document, 1, 1, 984, 472);
+    view.picDocument.Cls();
+    EXPECT_EQ(view.drawStaves(document), 1);
+    for (int y = 100; y < 472; ++y)
+        for (int x = 0; x < 984; ++x)
+            ASSERT_EQ(view.picDocument.image().pixel(x, y), 0xFFFFFEF2) << x << ',' << y;
 }
 
 TEST(PageGeometry, ColumnWidthIsRoundedHalfToEven) {
@@ -238,10 +218,15 @@ TEST(PageGeometry, ColumnWidthIsRoundedHalfToEven) {
     EXPECT_EQ(columnWidth(60), 0);
     EXPECT_EQ(columnWidth(60 + 32 * 20 + 16), 20); // 20.5
     EXPECT_EQ(columnWidth(60 + 32 * 21 + 16), 22); // 21.5
-    EXPECT_EQ(columnWidth(1904), 58);
+    EXPECT_EQ(columnWidth(1904), 58);              // 57.625
+    EXPECT_EQ(columnWidth(767), 22);               // 22.09
+    EXPECT_EQ(columnWidth(44), 0);                 // -0.5
+    EXPECT_EQ(columnWidth(12), -2);                // -1.5
 }
 
 TEST(PageGeometry, VisibleStavesAreWholeAndAtLeastOne) {
+    EXPECT_EQ(visibleStaves(-50), 1);
+    EXPECT_EQ(visibleStaves(0), 1);
     EXPECT_EQ(visibleStaves(1), 1);
     EXPECT_EQ(visibleStaves(99), 1);
     EXPECT_EQ(visibleStaves(199), 1);
@@ -259,14 +244,25 @@ TEST(PageGeometry, TheLinesFollowTheCursor) {
 }
 
 TEST(BeatRuler, EveryFourthColumnIsABeat) {
-    const std::vector<RulerTick> ticks = beatRuler(29);
-    ASSERT_EQ(ticks.size(), 32u);
-    for (int column = 0; column < 32; ++column) {
-        const RulerTick& tick = ticks[static_cast<std::size_t>(column)];
-        EXPECT_EQ(tick.onBeat, column % 4 == 0);
-        EXPECT_EQ(tick.x, 29 * column + (column % 4 == 0 ? 31 : 30));
-        EXPECT_EQ(tick.whiteX, tick.x + 2);
+    for (const int width : {12, 22, 29, 58}) {
+        const std::vector<RulerTick> ticks = beatRuler(width);
+        ASSERT_EQ(ticks.size(), 32u);
+        for (int column = 0; column < 32; ++column) {
+            const RulerTick& tick = ticks[static_cast<std::size_t>(column)];
+            EXPECT_EQ(tick.onBeat, column % 4 == 0);
+            EXPECT_EQ(tick.x, width * column + (column % 4 == 0 ? 31 : 30));
+            EXPECT_EQ(tick.whiteX, width * column + (column % 4 == 0 ? 33 : 32));
+        }
     }
+}
+
+TEST(BeatRuler, FollowsTheRedrawsColumnWidth) {
+    TabView view;
+    Document document;
+    document.ColumnWidth = 29;
+    view.DrawNotationAndRhythm(document);
+    ASSERT_EQ(view.ruler().size(), 32u);
+    EXPECT_EQ(view.ruler().back().x, 29 * 31 + 30);
 }
 
 TEST(NotationStrip, ItsBackgroundIsTwoCopies) {
@@ -275,6 +271,19 @@ TEST(NotationStrip, ItsBackgroundIsTwoCopies) {
     EXPECT_EQ(stripBackground(984), expected);
 }
 
+TEST(NotationStrip, ItsPixelsAreThoseOfItsCopies) {
+    for (const int pageWidth : {400, 984}) {
+        TabView view;
+        view.picDocument.resize(pageWidth, 300);
+        view.picStandardNotation.resize(pageWidth + 27, 168);
+        view.drawStripBackground();
+        QImage expected(pageWidth + 27, 168, QImage::Format_RGB32);
+        expected.fill(0xFFFFFFFF);
+        for (const SpriteCopy& copy : stripBackground(pageWidth))
+            carryOut(expected, view.picSource().image(), copy);
+        EXPECT_TRUE(sameImage(view.picStandardNotation.image(), expected, "strip"));
+    }
+}
+
 } // namespace
-} // namespace testing
-} // namespace tabrova
+} // namespace tabrova::testing

@@ -1,162 +1,250 @@
-#include "tabview/sprites.h"
-#include "tabview/tab_view.h"
+// The surface keeps its image, and the two copies do to every pixel what a naive blitter does.
+#include "tabview/surface.h"
 
-#include <gtest/gtest.h>
+#include "tests/tabview/plain_blitter.h"
 
-namespace tabrova {
+#include <random>
+
+namespace tabrova::testing {
 namespace {
 
+constexpr QRgb Paper = 0xFFFFFEF2;
+constexpr QRgb White = 0xFFFFFFFF;
+constexpr Raster Rasters[] = {Raster::SrcCopy, Raster::SrcAnd};
+
 // Every pixel differs, so that a wrong place shows.
-Surface numbered(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            image.setPixel(x, y, qRgb(x * 3, y * 5, 200));
-    return Surface(image, 1);
+Surface numbered(int width, int height, int scale = 1) {
+    QImage image(width * scale, height * scale, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 2 + 1, y * 3 + 1, 200 - x - y));
+    return Surface(image, scale);
 }
 
-constexpr QRgb Paper = 0xFFFFFEF2;
+Surface pageOf(int width, int height, int scale) {
+    Surface page(width, height, qRgb(0xAB, 0xCD, 0xEF));
+    page.setScale(scale);
+    return page;
+}
 
-TEST(Surface, KeepsItsImageWhenItGrowsAndShrinks) {
+// One stretch on a page of 20 by 16 against the naive blitter.
+void expectStretch(const Surface& from, const Rect& place, const Rect& source, Raster raster, int scale) {
+    Surface page = pageOf(20, 16, scale);
+    QImage expected = page.image();
+    carryOut(expected, from.image(), {place, source, raster}, scale);
+    StretchBlt(page, place, from, source, raster);
+    ASSERT_EQ(page.image(), expected)
+        << ::testing::PrintToString(SpriteCopy{place, source, raster}) << " scale " << scale;
+}
+
+void expectBlit(const Surface& from, const Rect& place, int sourceX, int sourceY, Raster raster, int scale) {
+    Surface page = pageOf(20, 16, scale);
+    const SpriteCopy copy = {place, {sourceX, sourceY, place.width, place.height}, raster};
+    QImage expected = page.image();
+    carryOut(expected, from.image(), copy, scale);
+    BitBlt(page, place.left, place.top, place.width, place.height, from, sourceX, sourceY, raster);
+    ASSERT_EQ(page.image(), expected) << ::testing::PrintToString(copy) << " scale " << scale;
+}
+
+TEST(Surface, StartsInItsBackground) {
+    const Surface surface(3, 2, Paper);
+    EXPECT_EQ(surface.image().size(), QSize(3, 2));
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x)
+            EXPECT_EQ(surface.image().pixel(x, y), Paper);
+}
+
+TEST(Surface, KeepsItsImageWhenItGrows) {
     Surface surface(4, 4, Paper);
     surface.image().setPixel(1, 2, qRgb(1, 2, 3));
     surface.resize(8, 9);
     EXPECT_EQ(surface.image().pixel(1, 2), qRgb(1, 2, 3));
     EXPECT_EQ(surface.image().pixel(7, 8), Paper);
-    surface.resize(2, 3);
-    EXPECT_EQ(surface.image().pixel(1, 2), qRgb(1, 2, 3));
-    surface.Cls();
-    EXPECT_EQ(surface.image().pixel(1, 2), Paper);
-    surface.resize(0, -5);
-    EXPECT_EQ(surface.image().size(), QSize(1, 1));
+    EXPECT_EQ(surface.image().pixel(4, 0), Paper);
 }
 
-TEST(BitBlt, LeavesOutWhatFallsOutside) {
+TEST(Surface, KeepsWhatFitsWhenItShrinks) {
+    Surface surface(8, 9, Paper);
+    surface.image().setPixel(1, 2, qRgb(1, 2, 3));
+    surface.resize(2, 3);
+    EXPECT_EQ(surface.image().size(), QSize(2, 3));
+    EXPECT_EQ(surface.image().pixel(1, 2), qRgb(1, 2, 3));
+}
+
+TEST(Surface, KeepsItsImageAtEveryScaleWhenItIsResized) {
+    for (const int scale : {2, 3}) {
+        Surface surface = pageOf(5, 5, scale);
+        surface.image().setPixel(5 * scale - 1, 5 * scale - 1, qRgb(1, 2, 3));
+        surface.resize(7, 8);
+        EXPECT_EQ(surface.image().size(), QSize(7, 8) * scale);
+        EXPECT_EQ(surface.image().pixel(5 * scale - 1, 5 * scale - 1), qRgb(1, 2, 3));
+        EXPECT_EQ(surface.image().pixel(5 * scale, 0), qRgb(0xAB, 0xCD, 0xEF));
+    }
+}
+
+TEST(Surface, CountsSizesBelowOneAsOne) {
+    Surface surface(0, -7, Paper);
+    EXPECT_EQ(surface.image().size(), QSize(1, 1));
+    surface.resize(6, 6);
+    surface.resize(0, -5);
+    EXPECT_EQ(surface.image().size(), QSize(1, 1));
+    EXPECT_EQ(surface.width(), 1);
+    EXPECT_EQ(surface.height(), 1);
+}
+
+TEST(Surface, ClsLeavesNothingButTheBackground) {
+    Surface surface(4, 4, Paper);
+    surface.image().setPixel(1, 2, qRgb(1, 2, 3));
+    surface.setBackground(White);
+    EXPECT_EQ(surface.image().pixel(0, 0), Paper);
+    surface.Cls();
+    EXPECT_EQ(surface.image(), Surface(4, 4, White).image());
+}
+
+TEST(Surface, TakesAnImageAtItsScale) {
+    const Surface surface = numbered(10, 8, 3);
+    EXPECT_EQ(surface.width(), 10);
+    EXPECT_EQ(surface.height(), 8);
+    EXPECT_EQ(surface.image().size(), QSize(30, 24));
+    EXPECT_EQ(surface.image().pixel(29, 23), qRgb(59, 70, 148));
+}
+
+TEST(BitBlt, CopiesEveryPixelToItsPlace) {
     const Surface source = numbered(20, 20);
-    for (const auto& [x, y, sourceX, sourceY] : {std::tuple{-3, -4, 0, 0},
-                                                 {6, 7, 0, 0},
-                                                 {0, 0, 15, 16},
-                                                 {0, 0, -2, -3},
-                                                 {-100, 0, 0, 0},
-                                                 {3, 3, 50, 50}}) {
-        Surface surface(10, 10, Paper);
-        BitBlt(surface, x, y, 8, 8, source, sourceX, sourceY, Raster::SrcCopy);
-        for (int row = 0; row < 10; ++row)
-            for (int column = 0; column < 10; ++column) {
-                const int dx = column - x, dy = row - y;
-                const QPoint from(sourceX + dx, sourceY + dy);
-                const bool inside =
-                    dx >= 0 && dx < 8 && dy >= 0 && dy < 8 && source.image().rect().contains(from);
-                ASSERT_EQ(surface.image().pixel(column, row), inside ? source.image().pixel(from) : Paper);
-            }
+    Surface page = pageOf(20, 16, 1);
+    BitBlt(page, 4, 5, 3, 2, source, 7, 9, Raster::SrcCopy);
+    EXPECT_EQ(page.image().copy(4, 5, 3, 2), source.image().copy(7, 9, 3, 2));
+    EXPECT_EQ(page.image().pixel(3, 5), qRgb(0xAB, 0xCD, 0xEF));
+    EXPECT_EQ(page.image().pixel(7, 6), qRgb(0xAB, 0xCD, 0xEF));
+    EXPECT_EQ(page.image().pixel(4, 4), qRgb(0xAB, 0xCD, 0xEF));
+    EXPECT_EQ(page.image().pixel(6, 7), qRgb(0xAB, 0xCD, 0xEF));
+}
+
+TEST(BitBlt, LeavesOutWhatFallsOutsideThePageOnAnySide) {
+    for (const int scale : {1, 2, 3}) {
+        const Surface source = numbered(24, 24, scale);
+        for (const Raster raster : Rasters)
+            for (const int x : {-40, -8, -7, -3, 0, 12, 13, 19, 20, 90})
+                for (const int y : {-40, -8, -3, 0, 8, 9, 15, 16, 90})
+                    expectBlit(source, {x, y, 8, 8}, 5, 6, raster, scale);
+    }
+}
+
+TEST(BitBlt, LeavesOutWhatFallsOutsideTheSourceOnAnySide) {
+    for (const int scale : {1, 2, 3}) {
+        const Surface source = numbered(10, 9, scale);
+        for (const Raster raster : Rasters)
+            for (const int x : {-40, -8, -3, 0, 2, 3, 9, 10, 50})
+                for (const int y : {-40, -8, -3, 0, 1, 2, 8, 9, 50})
+                    expectBlit(source, {4, 3, 8, 8}, x, y, raster, scale);
+    }
+}
+
+TEST(BitBlt, LargerThanBothSurfacesCopiesWhatBothHave) {
+    for (const int scale : {1, 2})
+        for (const Raster raster : Rasters)
+            expectBlit(numbered(10, 9, scale), {-5, -6, 100, 100}, -2, -3, raster, scale);
+}
+
+TEST(BitBlt, NoSizeDrawsNothing) {
+    const Surface source = numbered(20, 20);
+    for (const auto& [width, height] : {std::pair{0, 5}, {5, 0}, {0, 0}, {-1, 5}, {5, -1}, {-30, -30}}) {
+        Surface page = pageOf(20, 16, 1);
+        BitBlt(page, 5, 5, width, height, source, 5, 5, Raster::SrcCopy);
+        EXPECT_EQ(page.image(), pageOf(20, 16, 1).image()) << width << 'x' << height;
     }
 }
 
 TEST(BitBlt, AndKeepsWhatIsUnderWhiteAndBlackensUnderBlack) {
-    QImage image(2, 1, QImage::Format_RGB32);
-    image.setPixel(0, 0, qRgb(255, 255, 255));
+    QImage image(3, 1, QImage::Format_RGB32);
+    image.setPixel(0, 0, White);
     image.setPixel(1, 0, qRgb(0, 0, 0));
-    Surface surface(2, 1, Paper);
-    BitBlt(surface, 0, 0, 2, 1, Surface(image, 1), 0, 0, Raster::SrcAnd);
+    image.setPixel(2, 0, qRgb(0x0F, 0xFF, 0xF0));
+    Surface surface(3, 1, Paper);
+    BitBlt(surface, 0, 0, 3, 1, Surface(image, 1), 0, 0, Raster::SrcAnd);
     EXPECT_EQ(surface.image().pixel(0, 0), Paper);
     EXPECT_EQ(surface.image().pixel(1, 0), qRgb(0, 0, 0));
+    EXPECT_EQ(surface.image().pixel(2, 0), qRgb(0x0F, 0xFE, 0xF0));
 }
 
-TEST(StretchBlt, TakesTheNearestPixel) {
+TEST(BitBlt, CopyPutsWhiteOverWhatIsThere) {
+    Surface surface(3, 3, qRgb(0, 0, 0));
+    BitBlt(surface, 1, 1, 1, 1, Surface(1, 1, White), 0, 0, Raster::SrcCopy);
+    EXPECT_EQ(surface.image().pixel(1, 1), White);
+    EXPECT_EQ(surface.image().pixel(0, 1), qRgb(0, 0, 0));
+}
+
+TEST(StretchBlt, EnlargesByTheNearestPixel) {
     const Surface source = numbered(30, 10);
-    for (const Raster raster : {Raster::SrcCopy, Raster::SrcAnd})
-        for (const int width : {1, 5, 26, 27, 53, 79}) {
-            Surface surface(60, 30, 0xFFFFFFFF);
-            StretchBlt(surface, {-4, -3, width, 24}, source, {2, 1, 26, 8}, raster);
-            for (int y = 0; y < 30; ++y)
-                for (int x = 0; x < 60; ++x) {
-                    const bool inside = x + 4 < width && y + 3 < 24;
-                    const QRgb expected =
-                        inside ? source.image().pixel(2 + (x + 4) * 26 / width, 1 + (y + 3) * 8 / 24)
-                               : 0xFFFFFFFF;
-                    ASSERT_EQ(surface.image().pixel(x, y), expected) << width << ' ' << x << ' ' << y;
-                }
+    Surface page(8, 2, Paper);
+    StretchBlt(page, {0, 0, 8, 2}, source, {3, 2, 2, 1}, Raster::SrcCopy);
+    for (int x = 0; x < 8; ++x)
+        for (int y = 0; y < 2; ++y)
+            EXPECT_EQ(page.image().pixel(x, y), source.image().pixel(x < 4 ? 3 : 4, 2)) << x << ',' << y;
+}
+
+TEST(StretchBlt, ShrinksByTheNearestPixel) {
+    const Surface source = numbered(30, 10);
+    Surface page(3, 2, Paper);
+    StretchBlt(page, {0, 0, 3, 2}, source, {0, 0, 9, 8}, Raster::SrcCopy);
+    for (int x = 0; x < 3; ++x)
+        for (int y = 0; y < 2; ++y)
+            EXPECT_EQ(page.image().pixel(x, y), source.image().pixel(x * 3, y * 4)) << x << ',' << y;
+}
+
+TEST(StretchBlt, TakesTheNearestPixelAtEveryWidthAndScale) {
+    for (const int scale : {1, 2, 3}) {
+        const Surface source = numbered(30, 12, scale);
+        for (const Raster raster : Rasters)
+            for (const int width : {1, 2, 5, 13, 16, 25, 26, 27, 45, 53, 79, 221, 509})
+                for (const int height : {1, 11, 12, 13, 24})
+                    expectStretch(source, {2, 1, width, height}, {1, 0, 26, 12}, raster, scale);
+    }
+}
+
+TEST(StretchBlt, IsCutOnAnySideWithoutShiftingTheRest) {
+    for (const int scale : {1, 2, 3}) {
+        const Surface source = numbered(30, 12, scale);
+        for (const Raster raster : Rasters)
+            for (const int x : {-60, -37, -20, -1, 0, 7, 19, 20, 50})
+                for (const int y : {-30, -17, -5, 0, 3, 15, 16, 40})
+                    expectStretch(source, {x, y, 37, 17}, {2, 1, 26, 8}, raster, scale);
+    }
+}
+
+TEST(StretchBlt, OfOneColorFillsItsPlace) {
+    Surface page = pageOf(20, 16, 1);
+    StretchBlt(page, {3, 2, 30, 7}, Surface(4, 4, Paper), {0, 0, 4, 4}, Raster::SrcCopy);
+    for (int y = 0; y < 16; ++y)
+        for (int x = 0; x < 20; ++x)
+            EXPECT_EQ(page.image().pixel(x, y) == Paper, x >= 3 && y >= 2 && y < 9) << x << ',' << y;
+}
+
+TEST(StretchBlt, NoWidthOrHeightDrawsNothing) {
+    const Surface source = numbered(30, 10);
+    for (const Raster raster : Rasters)
+        for (const auto& [width, height] :
+             {std::pair{0, 5}, {-4, 5}, {4, 0}, {4, -5}, {0, 0}, {-9, -9}, {-30, 51}}) {
+            Surface page = pageOf(20, 16, 1);
+            StretchBlt(page, {5, 5, width, height}, source, {0, 0, 10, 5}, raster);
+            EXPECT_EQ(page.image(), pageOf(20, 16, 1).image()) << width << 'x' << height;
         }
 }
 
-TEST(StretchBlt, NoWidthDrawsNothing) {
-    const Surface source = numbered(30, 10);
-    Surface surface(20, 20, Paper);
-    StretchBlt(surface, {5, 5, 0, 5}, source, {0, 0, 10, 5}, Raster::SrcCopy);
-    StretchBlt(surface, {5, 5, -4, 5}, source, {0, 0, 10, 5}, Raster::SrcCopy);
-    StretchBlt(surface, {5, 5, 4, 0}, source, {0, 0, 10, 5}, Raster::SrcCopy);
-    Surface blank(20, 20, Paper);
-    EXPECT_EQ(surface.image(), blank.image());
-}
-
-TEST(Scale, TheSameGeometryIsDrawnInFinerPixels) {
-    for (const int scale : {2, 3}) {
-        TabView view;
-        view.picDocument.resize(100, 60);
-        view.setScale(scale);
-        EXPECT_EQ(view.picDocument.width(), 100);
-        EXPECT_EQ(view.picDocument.image().size(), QSize(100, 60) * scale);
-        EXPECT_EQ(view.picSource().image().size(), QSize(SheetWidth, SheetHeight) * scale);
-        view.copyToPage({{24, 26, 9, 7}, {71, 1, 9, 7}, Raster::SrcCopy});
-        EXPECT_EQ(view.picDocument.image().copy(24 * scale, 26 * scale, 9 * scale, 7 * scale),
-                  view.picSource().image().copy(71 * scale, scale, 9 * scale, 7 * scale));
-        EXPECT_EQ(view.picDocument.image().pixel(24 * scale - 1, 26 * scale), Paper);
-    }
-}
-
-TEST(Sheet, IsAsLargeAsToldAndHoldsInkInEveryNoteCell) {
-    const Surface sheet = loadSheet(1);
-    EXPECT_EQ(sheet.image().size(), QSize(657, 160));
-    const auto ink = [&sheet](const Rect& rect) {
-        int dark = 0;
-        for (int y = rect.top; y < rect.bottom(); ++y)
-            for (int x = rect.left; x < rect.right(); ++x)
-                dark += qGray(sheet.image().pixel(x, y)) < 128;
-        return dark;
+TEST(StretchBlt, AgreesWithTheNaiveBlitterOnRandomCopies) {
+    std::mt19937 random(17);
+    const auto choose = [&random](int least, int most) {
+        return std::uniform_int_distribution<int>(least, most)(random);
     };
-    QList<QImage> cells;
-    for (int fret = 0; fret <= 29; ++fret) {
-        EXPECT_GT(ink(*noteGlyph(std::to_string(fret))), 5) << fret;
-        const QImage cell = sheet.image().copy(1 + 10 * fret, 1, 9, 7);
-        EXPECT_FALSE(cells.contains(cell)) << fret;
-        cells.append(cell);
+    for (int run = 0; run < 3000; ++run) {
+        const int scale = choose(1, 3);
+        const Surface source = numbered(30, 12, scale);
+        const int left = choose(0, 25), top = choose(0, 9);
+        const Rect piece = {left, top, choose(1, 30 - left), choose(1, 12 - top)};
+        const Rect place = {choose(-30, 25), choose(-20, 20), choose(-2, 60), choose(-2, 40)};
+        expectStretch(source, place, piece, Rasters[choose(0, 1)], scale);
     }
-    EXPECT_GT(ink(sprite::DeadNote), 4);
-    EXPECT_GT(ink(sprite::JumpMark), 4);
-    // The blank piece carries the string across its row 4 alone.
-    for (int y = 0; y < 7; ++y)
-        for (int x = 0; x < 9; ++x)
-            EXPECT_EQ(sheet.image().pixel(331 + x, 1 + y) != 0xFFFFFFFF, y == 4) << x << ',' << y;
-}
-
-TEST(Glyphs, EveryNoteTextHasItsCell) {
-    for (int fret = 0; fret <= 29; ++fret)
-        EXPECT_EQ(noteGlyph(std::to_string(fret)), (Rect{1 + 10 * fret, 1, 9, 7}));
-    EXPECT_EQ(noteGlyph("x"), (Rect{301, 1, 9, 7}));
-    EXPECT_EQ(noteGlyph(">"), (Rect{171, 9, 9, 7}));
-    for (const char* text : {"", "30", "99", "05", "1.0", " 5", "5 ", "X", "-1", "290", "xx"})
-        EXPECT_EQ(noteGlyph(text), std::nullopt) << text;
-}
-
-TEST(Glyphs, EveryDrumHasItsCell) {
-    for (int drum = 35; drum <= 63; ++drum)
-        EXPECT_EQ(percussionGlyph(std::to_string(drum)), (Rect{11 + 10 * (drum - 35), 1, 9, 7}));
-    for (int drum = 64; drum <= 81; ++drum)
-        EXPECT_EQ(percussionGlyph(std::to_string(drum)), (Rect{1 + 10 * (drum - 64), 9, 9, 7}));
-    EXPECT_EQ(percussionGlyph("81"), noteGlyph(">"));
-    for (const char* text : {"", "34", "82", "0", "x", "035"})
-        EXPECT_EQ(percussionGlyph(text), std::nullopt) << text;
-}
-
-TEST(Glyphs, RepeatCountsShowOneMore) {
-    for (int count = 1; count <= 8; ++count)
-        EXPECT_EQ(repeatCountGlyph(count), (Rect{188 + 10 * (count - 1), 54, 9, 7}));
-    for (int count = 9; count <= 15; ++count)
-        EXPECT_EQ(repeatCountGlyph(count), (Rect{188 + 10 * (count - 9), 62, 9, 7}));
-    EXPECT_EQ(closedRepeatCount("r15"), 15);
-    for (const char* text : {"", "r", "r0", "r16", "r01", "x3", "rr"})
-        EXPECT_EQ(closedRepeatCount(text), std::nullopt);
 }
 
 } // namespace
-} // namespace tabrova
+} // namespace tabrova::testing
