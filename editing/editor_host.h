@@ -4,6 +4,7 @@
 
 #include "tabview/surface.h"
 
+#include <optional>
 #include <string>
 
 namespace tabrova {
@@ -37,8 +38,8 @@ class EditorHost {
     virtual void openNoteSelector(const Rect& place) = 0;
     virtual void focusPage() = 0;
 
-    // The preview's stopper starts afresh.
-    virtual void restartSoundStopper(int milliseconds) = 0;
+    // The preview's stopper starts afresh; without an interval it keeps its old one.
+    virtual void restartSoundStopper(std::optional<int> milliseconds) = 0;
     virtual void unloadFileProperties() = 0;
     virtual bool debugMode() const = 0;
     virtual bool playing() const = 0;

@@ -99,8 +99,9 @@ void Editor::soundColumn() {
     GetCurrentXPosition(document_);
     sound_.AllNotesOff();
     sendColumnPreview(document_, sound_);
-    if (document_.RealtimeMode == static_cast<std::int16_t>(RealtimeMode::Nothing)) return;
-    if (const auto duration = previewDuration(document_)) host_.restartSoundStopper(*duration);
+    const auto mode = static_cast<RealtimeMode>(document_.RealtimeMode);
+    if (mode == RealtimeMode::AllTracks || mode == RealtimeMode::CurrentTrack)
+        host_.restartSoundStopper(previewDuration(document_));
 }
 
 void Editor::DrawAndStorePercussionNote(int drumKey) {

@@ -64,7 +64,7 @@ class frmMain : public QMainWindow, private EditorHost {
     Rect noteSelectorGeometry() const override;
     void openNoteSelector(const Rect& place) override;
     void focusPage() override;
-    void restartSoundStopper(int milliseconds) override;
+    void restartSoundStopper(std::optional<int> milliseconds) override;
     void unloadFileProperties() override;
     bool debugMode() const override;
     bool playing() const override;

@@ -255,9 +255,9 @@ void frmMain::closeRepeatPanel(int value) {
     refreshPage();
 }
 
-void frmMain::restartSoundStopper(int milliseconds) {
+void frmMain::restartSoundStopper(std::optional<int> milliseconds) {
     tmrsndStopper_->setEnabled(false);
-    tmrsndStopper_->setInterval(milliseconds);
+    if (milliseconds) tmrsndStopper_->setInterval(*milliseconds);
     tmrsndStopper_->setEnabled(true);
 }
 

@@ -54,9 +54,10 @@ class FakeHost : public EditorHost {
         record("focusPage");
         ++focused;
     }
-    void restartSoundStopper(int milliseconds) override {
+    void restartSoundStopper(std::optional<int> milliseconds) override {
         record("restartSoundStopper");
-        stopper = milliseconds;
+        ++stopperStarts;
+        if (milliseconds) stopper = *milliseconds;
     }
     void unloadFileProperties() override { ++unloaded; }
     bool debugMode() const override { return debug; }
@@ -72,7 +73,7 @@ class FakeHost : public EditorHost {
     std::optional<Panel> opened;
     Rect panelPlace, selectorPlace;
     int pageRefreshes = 0, redraws = 0, selectorsOpened = 0, focused = 0, unloaded = 0;
-    int scrollMaximum = 0, scrollValue = 0, stopper = 0;
+    int scrollMaximum = 0, scrollValue = 0, stopper = 0, stopperStarts = 0;
     bool guitarButtons = false, debug = false;
 
   private:

@@ -420,6 +420,12 @@ TEST_F(NoteEntry, TypingStartsTheStopperForTwoColumns) {
     document.RealtimeMode = 2;
     keys({'5'});
     EXPECT_EQ(host.stopper, 17143);
+    // A tempo that gives no interval leaves the old one; the stopper starts all the same.
+    const int starts = host.stopperStarts;
+    document.Tempo = 0;
+    keys({'5'});
+    EXPECT_EQ(host.stopper, 17143);
+    EXPECT_EQ(host.stopperStarts, starts + 1);
 }
 
 } // namespace
