@@ -82,9 +82,7 @@ void FullRedraw(benchmark::State& state) {
 void WholeRefresh(benchmark::State& state) {
     Program program;
     makeDenseDocument(program.window.document(), 4096);
-    for (auto _ : state)
-        program.window.editor().refreshdrawing();
-    state.counters["copy_us"] = copyNanoseconds() / 1000.0;
+    measureAgainstCopy(state, [&] { program.window.editor().refreshdrawing(); });
 }
 
 void TypedNoteWithoutSound(benchmark::State& state) {
