@@ -56,7 +56,8 @@ void frmMain::buildPanels() {
     connect(Command1, &QPushButton::clicked, this, [this] { closePanel(*trackChooser_); });
     auto* title = new QLabel("Track: Untitled Track", strip_);
     title->setObjectName("lblNotationTitle");
-    title->setStyleSheet("color: #555555");
+    // The strip is white paper in every theme.
+    title->setStyleSheet("color: #555555; background: transparent");
     title->move(16, 4);
     title->adjustSize();
     editor_.page().noteLineColor = palette().color(QPalette::Highlight).rgb();
