@@ -19,6 +19,14 @@ constexpr int ClipboardColumns = 32;
 constexpr std::int16_t StandardTuning = 13;
 constexpr std::int16_t DefaultTempo = 480;
 
+// How far the player has come. Columns count from 0.
+struct PlaybackState {
+    std::int32_t PlaybackPosition = 0;  // the column that the next tick plays
+    std::int32_t RepeatStartColumn = 0; // the last opened repeat that was passed
+    std::int16_t RepeatsLeft = 0;       // jumps back still to be made
+    std::int16_t InRepeat = False16;    // a closed repeat is being played through
+};
+
 struct Document {
     Document() = default;
     Document(const Document&) = delete;
@@ -47,10 +55,7 @@ struct Document {
     std::int16_t StaffCount = 1;
     std::int16_t VisibleStaves = 0;
 
-    std::int32_t PlaybackPosition = 0;
-    std::int32_t RepeatStartColumn = 0;
-    std::int16_t RepeatsLeft = 0;
-    std::int16_t InRepeat = False16;
+    PlaybackState playback;
 
     TextPool pool;
     CellGrid NoteGrid;

@@ -4,13 +4,13 @@
 #include "editing/editor.h"
 #include "editing/key_codes.h"
 #include "sound/column_preview.h"
+#include "sound/pitch.h"
 #include "tabview/page_marks.h"
 
 namespace tabrova {
 
 namespace {
 
-constexpr int PercussionChannel = 9;
 constexpr int LowestChordString = 4; // power chords grow only from strings 4 and 5
 constexpr double HighestChordRoot = 28.0;
 

@@ -1,31 +1,21 @@
 #include "sound/column_preview.h"
 
+#include "sound/pitch.h"
+
 namespace tabrova {
 
 namespace {
 
-constexpr int GuitarChannel = 0;
-constexpr int PercussionChannel = 9;
-
-std::optional<std::int16_t> listNumber(const std::vector<std::string>& list, int index) {
-    if (index < 0 || index >= static_cast<int>(list.size())) return std::nullopt;
-    return toInteger16(list[static_cast<std::size_t>(index)]);
-}
-
 void sendFret(const Document& document, MidiOutput& output, int row, int string, int tuningIndex,
               std::optional<std::int16_t> volume) {
-    const auto fret = toNumber(document.note(document.CurrentColumn, row));
-    if (!fret || !volume || tuningIndex < 0 || tuningIndex >= static_cast<int>(document.TuningTable.size()))
-        return;
-    const int tuning = document.TuningTable[static_cast<std::size_t>(tuningIndex)];
-    const auto note =
-        toInteger16(*fret + OpenStringNotes[static_cast<std::size_t>(string)] + tuning - StandardTuning);
-    if (note) output.NoteOn(GuitarChannel, *note, *volume);
+    const auto pitch =
+        frettedPitch(document, document.note(document.CurrentColumn, row), string, tuningIndex);
+    if (pitch && volume) output.NoteOn(GuitarChannel, *pitch, *volume);
 }
 
 void sendCurrentTrack(const Document& document, MidiOutput& output) {
     const int track = document.CurrentTrack - 1;
-    const auto volume = listNumber(document.TrackVolumes, track);
+    const auto volume = listInteger(document.TrackVolumes, track);
     for (int string = 0; string < StringsPerTrack; ++string) {
         const int row = track * StringsPerTrack + string;
         // The tuning index deliberately has no factor of six: only the first track previews with its own
@@ -35,14 +25,14 @@ void sendCurrentTrack(const Document& document, MidiOutput& output) {
 }
 
 void sendProgram(const Document& document, MidiOutput& output, int track) {
-    if (const auto program = listNumber(document.TrackInstruments, track))
+    if (const auto program = listInteger(document.TrackInstruments, track))
         output.ProgramChange(GuitarChannel, *program);
 }
 
 void sendGuitarTrack(const Document& document, MidiOutput& output, int track) {
     sendProgram(document, output, track);
     // The velocity is deliberately the current track's, whichever track sounds.
-    const auto volume = listNumber(document.TrackVolumes, document.CurrentTrack - 1);
+    const auto volume = listInteger(document.TrackVolumes, document.CurrentTrack - 1);
     for (int string = 0; string < StringsPerTrack; ++string) {
         const int row = track * StringsPerTrack + string;
         sendFret(document, output, row, string, row, volume);
@@ -50,7 +40,7 @@ void sendGuitarTrack(const Document& document, MidiOutput& output, int track) {
 }
 
 void sendPercussionTrack(const Document& document, MidiOutput& output, int track) {
-    const auto volume = listNumber(document.TrackVolumes, track);
+    const auto volume = listInteger(document.TrackVolumes, track);
     for (int string = 0; string < StringsPerTrack; ++string) {
         const auto drum =
             toInteger16(document.note(document.CurrentColumn, track * StringsPerTrack + string));

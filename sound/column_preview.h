@@ -10,9 +10,6 @@ namespace tabrova {
 // Values of Document::RealtimeMode.
 enum class RealtimeMode : std::int16_t { AllTracks = 0, Nothing = 1, CurrentTrack = 2 };
 
-// The open strings' MIDI notes, string 0 to 5.
-constexpr std::array<int, StringsPerTrack> OpenStringNotes = {64, 59, 55, 50, 45, 40};
-
 // Sends the notes of CurrentColumn by RealtimeMode. A cell, tuning or volume that is not there or is no
 // number silences that note alone.
 void sendColumnPreview(const Document& document, MidiOutput& output);

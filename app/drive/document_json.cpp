@@ -74,10 +74,10 @@ void addFields(QJsonObject& json, const Document& document) {
     json["TopStaff"] = document.TopStaff;
     json["StaffCount"] = document.StaffCount;
     json["VisibleStaves"] = document.VisibleStaves;
-    json["PlaybackPosition"] = document.PlaybackPosition;
-    json["RepeatStartColumn"] = document.RepeatStartColumn;
-    json["RepeatsLeft"] = document.RepeatsLeft;
-    json["InRepeat"] = document.InRepeat != False16;
+    json["PlaybackPosition"] = document.playback.PlaybackPosition;
+    json["RepeatStartColumn"] = document.playback.RepeatStartColumn;
+    json["RepeatsLeft"] = document.playback.RepeatsLeft;
+    json["InRepeat"] = document.playback.InRepeat != False16;
     json["LastColumn"] = document.lastColumn();
 }
 

@@ -72,7 +72,7 @@ void frmMain::LoadLanguage() {}
 void frmMain::loadFrmOptions() { sound_.OpenMidiDevice(MidiMapperId); }
 
 void frmMain::StopTimer() {
-    document_.PlaybackPosition = 0;
+    document_.playback.PlaybackPosition = 0;
     ToggleMenus(true);
 }
 
