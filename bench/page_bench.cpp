@@ -52,9 +52,12 @@ struct Program {
     DesktopAddressOpener addresses;
     MemorySettingsStore settings;
     DesktopTextPrinter printer;
-    SilentMidiDevice midi;
+    RecordingMidiDevice midi;
+    SystemTimerService timerService;
     TimerList timers;
-    Services services{boxes, files, addresses, settings, printer, midi, timers, {}, [] { std::abort(); }};
+    RecordingSynthesizer synthesizer;
+    Services services{boxes,       files, addresses,           settings, printer, midi, timerService, timers,
+                      synthesizer, {},    [] { std::abort(); }};
     frmMain window{services};
 
     Program() {

@@ -1,9 +1,8 @@
 // The device layer under all sound: list the MIDI outputs, open one, close it, send three bytes, tell an
-// error. A result of 0 is success; any other is an error code that errorText explains.
+// error. A result of 0 is success; any other is an error code that midiOutGetErrorTextA explains.
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <array>
 #include <cstdint>
@@ -21,25 +20,17 @@ using ShortMessage = std::array<std::uint8_t, 3>;
 class MidiDevice {
   public:
     virtual ~MidiDevice() = default;
-    virtual int deviceCount() const = 0;
-    // std::nullopt for a device that does not tell its capabilities; MidiMapperId is asked for like any
-    // other.
-    virtual std::optional<QString> deviceName(int id) const = 0;
-    virtual int open(int id) = 0;
-    virtual int close() = 0;
-    virtual int send(const ShortMessage& message) = 0;
-    virtual QString errorText(int code) const = 0;
-};
-
-// Takes every message and sounds nothing.
-class SilentMidiDevice : public MidiDevice {
-  public:
-    int deviceCount() const override { return 0; }
-    std::optional<QString> deviceName(int id) const override;
-    int open(int) override { return 0; }
-    int close() override { return 0; }
-    int send(const ShortMessage&) override { return 0; }
-    QString errorText(int) const override { return {}; }
+    // Devices besides the mapper; their ids are 0 up to this number less one. Asks the system afresh.
+    virtual int midiOutGetNumDevs() = 0;
+    // The product name; std::nullopt for a device that does not tell its capabilities. MidiMapperId is asked
+    // for like any other.
+    virtual std::optional<QString> midiOutGetDevCapsA(int id) const = 0;
+    // On success `handle` is not 0.
+    virtual int midiOutOpen(std::uint32_t& handle, int id) = 0;
+    virtual int midiOutClose(std::uint32_t handle) = 0;
+    // A handle of 0 is an error.
+    virtual int midiOutShortMsg(std::uint32_t handle, const ShortMessage& message) = 0;
+    virtual QString midiOutGetErrorTextA(int code) const = 0;
 };
 
 // Keeps the messages; each kind of operation can be made to fail.
@@ -47,12 +38,12 @@ class RecordingMidiDevice : public MidiDevice {
   public:
     enum class Operation { Open, Close, Send };
 
-    int deviceCount() const override { return 1; }
-    std::optional<QString> deviceName(int id) const override;
-    int open(int) override { return result(Operation::Open); }
-    int close() override { return result(Operation::Close); }
-    int send(const ShortMessage& message) override;
-    QString errorText(int code) const override;
+    int midiOutGetNumDevs() override { return 1; }
+    std::optional<QString> midiOutGetDevCapsA(int id) const override;
+    int midiOutOpen(std::uint32_t& handle, int id) override;
+    int midiOutClose(std::uint32_t) override { return result(Operation::Close); }
+    int midiOutShortMsg(std::uint32_t handle, const ShortMessage& message) override;
+    QString midiOutGetErrorTextA(int code) const override;
 
     void setFailing(Operation operation, bool failing) {
         failing_[static_cast<std::size_t>(operation)] = failing;

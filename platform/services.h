@@ -6,7 +6,9 @@
 #include "platform/message_boxes.h"
 #include "platform/midi_device.h"
 #include "platform/settings_store.h"
+#include "platform/synthesizer.h"
 #include "platform/text_printer.h"
+#include "platform/timer_service.h"
 #include "platform/window_timer.h"
 
 #include <filesystem>
@@ -21,7 +23,9 @@ struct Services {
     SettingsStore& settings;
     TextPrinter& printer;
     MidiDevice& midi;
+    TimerService& timerService;
     TimerList& timers;
+    Synthesizer& synthesizer;
     std::filesystem::path programFolder;
     // Ends the program at once, with no save and no clean-up. Does not return in the real program.
     std::function<void()> endProgram;

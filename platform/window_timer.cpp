@@ -6,20 +6,25 @@ namespace tabrova {
 
 void TimerList::setFrozen(bool frozen) {
     frozen_ = frozen;
-    for (WindowTimer* timer : timers_)
+    for (ListedTimer* timer : timers_)
         timer->runClock();
+}
+
+ListedTimer::ListedTimer(TimerList& list, const QString& name) : list_(list), name_(name) {
+    list_.timers_.insert(name_, this);
+}
+
+ListedTimer::~ListedTimer() {
+    if (list_.timers_.value(name_) == this) list_.timers_.remove(name_);
 }
 
 WindowTimer::WindowTimer(TimerList& list, const QString& name, int interval, std::function<void()> tick,
                          QObject* parent)
-    : QObject(parent), list_(list), tick_(std::move(tick)), interval_(interval) {
+    : QObject(parent), ListedTimer(list, name), tick_(std::move(tick)), interval_(interval) {
     setObjectName(name);
     clock_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&clock_, &QTimer::timeout, this, [this] { fire(); });
-    list_.timers_.insert(name, this);
 }
-
-WindowTimer::~WindowTimer() { list_.timers_.remove(objectName()); }
 
 void WindowTimer::setInterval(int milliseconds) {
     interval_ = std::max(milliseconds, 1);
@@ -38,7 +43,7 @@ bool WindowTimer::fire() {
 }
 
 void WindowTimer::runClock() {
-    if (enabled_ && !list_.frozen_) {
+    if (enabled_ && !frozen()) {
         clock_.start(interval_);
     } else {
         clock_.stop();

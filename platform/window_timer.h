@@ -1,5 +1,6 @@
-// The window timers: ordinary periodic timers with a name, an interval in milliseconds and an enabled flag,
-// all known to one list, so that a test can stop their clocks and deliver single events.
+// The program's timers by name: an interval in milliseconds, an enabled flag and a Timer event, all known to
+// one list, so that a test can stop their clocks and deliver single events. WindowTimer is the ordinary
+// periodic one.
 #pragma once
 
 #include <QMap>
@@ -10,42 +11,62 @@
 
 namespace tabrova {
 
-class WindowTimer;
+class ListedTimer;
 
 class TimerList {
   public:
-    const QMap<QString, WindowTimer*>& timers() const { return timers_; }
+    const QMap<QString, ListedTimer*>& timers() const { return timers_; }
     // No timer ticks by itself while the list is frozen.
     bool frozen() const { return frozen_; }
     void setFrozen(bool frozen);
 
   private:
-    friend class WindowTimer;
-    QMap<QString, WindowTimer*> timers_;
+    friend class ListedTimer;
+    QMap<QString, ListedTimer*> timers_;
     bool frozen_ = false;
 };
 
-class WindowTimer : public QObject {
+class ListedTimer {
+  public:
+    ListedTimer(TimerList& list, const QString& name);
+    ListedTimer(const ListedTimer&) = delete;
+    ListedTimer& operator=(const ListedTimer&) = delete;
+    virtual ~ListedTimer();
+
+    const QString& timerName() const { return name_; }
+    virtual int timerInterval() const = 0;
+    virtual bool timerEnabled() const = 0;
+    // Delivers one Timer event now, if the timer is enabled; false if it is not.
+    virtual bool fire() = 0;
+
+  protected:
+    friend class TimerList;
+    bool frozen() const { return list_.frozen(); }
+    // The list was frozen or thawed.
+    virtual void runClock() = 0;
+
+  private:
+    TimerList& list_;
+    QString name_;
+};
+
+class WindowTimer : public QObject, public ListedTimer {
   public:
     // `tick` is the Timer event.
     WindowTimer(TimerList& list, const QString& name, int interval, std::function<void()> tick,
                 QObject* parent);
-    ~WindowTimer() override;
 
-    int interval() const { return interval_; }
-    bool enabled() const { return enabled_; }
+    int timerInterval() const override { return interval_; }
+    bool timerEnabled() const override { return enabled_; }
+    bool fire() override;
     // At least 1 ms. A running timer starts afresh.
     void setInterval(int milliseconds);
     // true starts a new interval, also when the timer runs.
     void setEnabled(bool enabled);
-    // Delivers one Timer event now, if the timer is enabled; false if it is not.
-    bool fire();
 
   private:
-    friend class TimerList;
-    void runClock();
+    void runClock() override;
 
-    TimerList& list_;
     std::function<void()> tick_;
     QTimer clock_;
     int interval_;

@@ -11,7 +11,6 @@ constexpr int ControllerBank = 0;
 constexpr int ControllerAllSoundOff = 120;
 constexpr int ControllerAllNotesOff = 123;
 constexpr int LastChannelSilenced = 8;
-constexpr int NoDevice = 1;
 
 } // namespace
 
@@ -27,7 +26,8 @@ void MidiOutput::SendShortMessage(int status, int data1, int data2) {
     const std::uint32_t packed = PackShortMessage(status, data1, data2);
     const ShortMessage bytes = {static_cast<std::uint8_t>(packed), static_cast<std::uint8_t>(packed >> 8),
                                 static_cast<std::uint8_t>(packed >> 16)};
-    const int code = open_ ? device_.send(bytes) : NoDevice;
+    if (dropping_) return;
+    const int code = device_.midiOutShortMsg(MidiOutputHandle, bytes);
     if (code != 0) failed_(code);
 }
 
@@ -56,19 +56,31 @@ void MidiOutput::AllNotesOff() {
         ChannelNotesOff(channel);
 }
 
+std::vector<MidiDeviceRow> MidiOutput::FillDeviceList() {
+    std::vector<MidiDeviceRow> rows;
+    const auto add = [&](int id) {
+        if (const auto name = device_.midiOutGetDevCapsA(id)) rows.push_back({*name, id});
+    };
+    add(MidiMapperId);
+    const int count = device_.midiOutGetNumDevs();
+    for (int id = 0; id < count; ++id)
+        add(id);
+    return rows;
+}
+
 bool MidiOutput::OpenMidiDevice(int id) {
     CloseMidiDevice();
-    const int code = device_.open(id);
-    open_ = code == 0;
+    dropping_ = false;
+    const int code = device_.midiOutOpen(MidiOutputHandle, id);
     if (code != 0) failed_(code);
-    return open_;
+    return MidiOutputHandle != 0;
 }
 
 void MidiOutput::CloseMidiDevice() {
-    if (!open_) return;
-    const int code = device_.close();
+    if (MidiOutputHandle == 0) return;
+    const int code = device_.midiOutClose(MidiOutputHandle);
     if (code != 0) failed_(code);
-    open_ = false;
+    MidiOutputHandle = 0;
 }
 
 } // namespace tabrova

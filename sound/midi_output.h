@@ -9,6 +9,11 @@
 
 namespace tabrova {
 
+struct MidiDeviceRow {
+    QString name;
+    int id;
+};
+
 class MidiOutput {
   public:
     // `failed` is told of every open, close or send that does not succeed.
@@ -24,10 +29,16 @@ class MidiOutput {
     // Channels 0 to 8: percussion and the tools' channels keep sounding.
     void AllNotesOff();
 
+    // The mapper if there is one, then each device that tells its capabilities: a row's place in the list
+    // need not be its id.
+    std::vector<MidiDeviceRow> FillDeviceList();
     // False if the device did not open. An open device is closed first.
     bool OpenMidiDevice(int id);
     void CloseMidiDevice();
-    bool isOpen() const { return open_; }
+    // The chosen device is not there: messages are dropped, and do not fail, until a device is opened.
+    void dropUntilOpened() { dropping_ = true; }
+
+    std::uint32_t MidiOutputHandle = 0; // 0 when no device is open
 
     std::int16_t FixedVelocity = 127; // velocity of the tools' notes
     // Sent with controller 0 before every program change. 128 is deliberate: the byte 0x80 really goes out.
@@ -38,7 +49,7 @@ class MidiOutput {
 
     MidiDevice& device_;
     std::function<void(int)> failed_;
-    bool open_ = false;
+    bool dropping_ = false;
 };
 
 // status + data1 * 256 + data2 * 65536: a value over one byte runs on into the next.

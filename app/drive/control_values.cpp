@@ -95,7 +95,7 @@ std::optional<bool> checkedOf(QObject* control) {
 
 bool isEnabled(QObject* control) {
     if (auto* action = as<QAction>(control)) return action->isEnabled();
-    if (auto* timer = dynamic_cast<WindowTimer*>(control)) return timer->enabled();
+    if (auto* timer = dynamic_cast<ListedTimer*>(control)) return timer->timerEnabled();
     auto* widget = as<QWidget>(control);
     return widget && widget->isEnabled();
 }
@@ -133,10 +133,8 @@ QString setRow(QObject* control, int row) {
     if (row == -2) return "no such row";
     if (auto* list = as<QListWidget>(control)) {
         list->setCurrentRow(row);
-        if (QListWidgetItem* item = list->item(row)) {
-            emit list->itemClicked(item);
-            emit list->clicked(list->currentIndex());
-        }
+        // The list raises its own itemClicked from it.
+        if (list->item(row)) emit list->clicked(list->currentIndex());
     } else if (auto* box = as<QComboBox>(control)) {
         box->setCurrentIndex(row);
         emit box->activated(row);

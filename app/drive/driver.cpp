@@ -161,15 +161,15 @@ QJsonObject Driver::answer(const QStringList& words) {
 
 QJsonObject Driver::timers(const QStringList&) {
     QJsonObject list;
-    for (const WindowTimer* timer : recording_.timers.timers())
-        list[timer->objectName()] =
-            QJsonObject{{"enabled", timer->enabled()}, {"interval", timer->interval()}};
+    for (const ListedTimer* timer : recording_.timers.timers())
+        list[timer->timerName()] =
+            QJsonObject{{"enabled", timer->timerEnabled()}, {"interval", timer->timerInterval()}};
     return {{"timers", list}};
 }
 
 QJsonObject Driver::fire(const QStringList& words) {
-    for (WindowTimer* timer : recording_.timers.timers())
-        if (timer->objectName().compare(words.value(1), Qt::CaseInsensitive) == 0)
+    for (ListedTimer* timer : recording_.timers.timers())
+        if (timer->timerName().compare(words.value(1), Qt::CaseInsensitive) == 0)
             return {{"fired", timer->fire()}};
     return error("no such timer");
 }

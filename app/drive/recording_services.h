@@ -13,12 +13,23 @@ struct RecordingServices {
     RecordingAddressOpener addresses;
     RecordingTextPrinter printer;
     RecordingMidiDevice midi;
+    RecordingSynthesizer synthesizer;
+    SystemTimerService timerService;
     TimerList timers;
     std::unique_ptr<SettingsStore> settings;
 
     Services services(const std::filesystem::path& folder, std::function<void()> endProgram) {
-        return Services{
-            boxes, files, addresses, *settings, printer, midi, timers, folder, std::move(endProgram)};
+        return Services{boxes,
+                        files,
+                        addresses,
+                        *settings,
+                        printer,
+                        midi,
+                        timerService,
+                        timers,
+                        synthesizer,
+                        folder,
+                        std::move(endProgram)};
     }
 };
 

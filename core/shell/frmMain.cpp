@@ -30,13 +30,7 @@ frmMain::frmMain(Services& services)
     connectPanels();
     connectPage();
     connectMenus();
-    tmrsndStopper_ = new WindowTimer(
-        services_.timers, "tmrsndStopper", 250,
-        [this] {
-            sound_.AllNotesOff();
-            tmrsndStopper_->setEnabled(false);
-        },
-        this);
+    makeTimers();
     client_->installEventFilter(this);
 }
 
@@ -68,12 +62,16 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
 // The lines of the active language replace the built-in captions and words, when there is a reader for them.
 void frmMain::LoadLanguage() {}
 
-// The options own the choice of the device; until they offer one the mapper serves.
-void frmMain::loadFrmOptions() { sound_.OpenMidiDevice(MidiMapperId); }
+// The options open the device that the user has chosen, and stay loaded.
+void frmMain::loadFrmOptions() {
+    options_ = new frmOptions(services_, *this, this);
+    options_->Form_Load();
+}
 
-void frmMain::StopTimer() {
-    document_.playback.PlaybackPosition = 0;
-    ToggleMenus(true);
+void frmMain::showOptions() {
+    options_->show();
+    options_->raise();
+    options_->activateWindow();
 }
 
 void frmMain::showFrmHelp() { menu_->action("mnuHelpContents")->trigger(); }
@@ -85,7 +83,7 @@ void frmMain::showFrmFileProperties() { editor_.refreshdrawing(); }
 void frmMain::showFrmPercussion() {}
 
 void frmMain::ReportMidiError(int code) {
-    services_.midi.errorText(code);
+    services_.midi.midiOutGetErrorTextA(code);
     services_.boxes.ask(
         {"Error: Sound Card Unavailable",
          "Tabrova cannot access your sound card and will now close. Please close all applications "
@@ -149,6 +147,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
     StopTimer();
     sound_.AllNotesOff();
     splash_.clear();
+    delete options_;
+    options_ = nullptr;
     sound_.CloseMidiDevice();
     event->accept();
     QCoreApplication::exit(0);

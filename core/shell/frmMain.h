@@ -15,7 +15,10 @@
 #include "core/shell/toolbar.h"
 #include "core/shell/window_layout.h"
 #include "editing/editor.h"
+#include "organisers/options/frmOptions.h"
 #include "platform/services.h"
+#include "sound/hi_pre_timer.h"
+#include "sound/playback.h"
 
 #include <QLabel>
 #include <QMainWindow>
@@ -23,7 +26,7 @@
 
 namespace tabrova {
 
-class frmMain : public QMainWindow, private EditorHost {
+class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
   public:
     explicit frmMain(Services& services);
     ~frmMain() override;
@@ -37,7 +40,7 @@ class frmMain : public QMainWindow, private EditorHost {
     // Size of the client area: all below the menu bar.
     void resizeClient(int width, int height);
 
-    Document& document() { return document_; }
+    Document& document() override { return document_; }
     Editor& editor() { return editor_; }
     TabView& view() { return view_; }
     MainMenu& menu() { return *menu_; }
@@ -66,8 +69,18 @@ class frmMain : public QMainWindow, private EditorHost {
     void focusPage() override;
     void restartSoundStopper(std::optional<int> milliseconds) override;
     void unloadFileProperties() override;
-    bool debugMode() const override;
-    bool playing() const override;
+    bool debugMode() const override { return debugMode_; }
+    bool playing() const override { return Hitime1_->Enabled(); }
+
+    MidiOutput& sound() override { return sound_; }
+    void setCursorColor(QRgb color) override;
+    int cursorBorderWidth() const override { return editor_.page().borderWidth; }
+    void setCursorBorderWidth(int pixels) override;
+    bool tabOneColor() const override;
+    void setTabOneColor(bool oneColor) override;
+    void showStatistics(bool shown) override;
+    void setDebugMode(bool on) override;
+    void silenceAfter(int milliseconds) override { restartSoundStopper(milliseconds); }
 
     void buildPanels();
     void connectPanels();
@@ -77,7 +90,13 @@ class frmMain : public QMainWindow, private EditorHost {
     void connectPage();
     void LoadLanguage();
     void loadFrmOptions();
+    void showOptions();
+    void makeTimers();
+    void play(PlayFrom from);
+    void mnuPlaybackStop();
+    void StartPlayback(int interval);
     void StopTimer();
+    void HiTime1_Timer();
     void showFrmHelp();
     void showFrmFileProperties();
     void showFrmPercussion();
@@ -106,6 +125,7 @@ class frmMain : public QMainWindow, private EditorHost {
     WindowLayout layout_;
     bool loaded_ = false;
     bool splashWanted_ = false;
+    bool debugMode_ = false;
 
     QWidget* client_ = nullptr;
     Toolbar* toolbar_ = nullptr;
@@ -120,6 +140,8 @@ class frmMain : public QMainWindow, private EditorHost {
     QFrame* trackChooser_ = nullptr;
     QLabel* lbldebug_ = nullptr;
     WindowTimer* tmrsndStopper_ = nullptr;
+    ctlHiPreTimer* Hitime1_ = nullptr;
+    frmOptions* options_ = nullptr;
     QPointer<frmAltSplash> splash_;
 };
 

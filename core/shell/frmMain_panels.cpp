@@ -82,8 +82,12 @@ void frmMain::connectPanels() {
     bendPanel_->chosen = [this](int code) { closeBendPanel(code); };
     repeatPanel_->chosen = [this](int value) { closeRepeatPanel(value); };
     toolbar_->pressed = [this](const QString& word) {
-        const QHash<QString, QString> items = {
-            {"new", "mnuFileNew"}, {"open", "mnuFileOpen"}, {"save", "mnuFileSave"}};
+        const QHash<QString, QString> items = {{"new", "mnuFileNew"},
+                                               {"open", "mnuFileOpen"},
+                                               {"save", "mnuFileSave"},
+                                               {"playall", "mnuSoundPlayAll"},
+                                               {"playfromhere", "mnuPlayFromHere"},
+                                               {"stop", "mnuPlaybackStop"}};
         if (items.contains(word)) menu_->action(items.value(word))->trigger();
     };
 }
@@ -119,6 +123,10 @@ void frmMain::connectMenus() {
                        [this] { editor_.modes.intelligent = menu_->isChecked("mnuIntelligent"); });
     menu_->connectItem("mnuViewNotation", [this] { mnuViewNotation(); });
     menu_->connectItem("mnuViewRefresh", [this] { editor_.refreshdrawing(); });
+    menu_->connectItem("mnuToolsOptions", [this] { showOptions(); });
+    menu_->connectItem("mnuSoundPlayAll", [this] { play(PlayFrom::Start); });
+    menu_->connectItem("mnuPlayFromHere", [this] { play(PlayFrom::Cursor); });
+    menu_->connectItem("mnuPlaybackStop", [this] { mnuPlaybackStop(); });
     menu_->connectItem("mnuTechSupport",
                        [this] { openSettingAddress("SupportAddress", "mailto:support@tabrova.invalid"); });
     menu_->connectItem("mnuNewVersionCheck",
@@ -264,8 +272,31 @@ void frmMain::restartSoundStopper(std::optional<int> milliseconds) {
 
 void frmMain::unloadFileProperties() {}
 
-bool frmMain::debugMode() const { return false; }
+void frmMain::setCursorColor(QRgb color) {
+    PageObjects& objects = editor_.page();
+    objects.color = color;
+    objects.noteLineColor = color;
+    editor_.refreshdrawing();
+}
 
-bool frmMain::playing() const { return false; }
+void frmMain::setCursorBorderWidth(int pixels) {
+    editor_.page().borderWidth = pixels;
+    page_->update();
+    strip_->update();
+}
+
+bool frmMain::tabOneColor() const { return view_.picDocument.background() == WhitePaper; }
+
+void frmMain::setTabOneColor(bool oneColor) {
+    view_.picDocument.setBackground(oneColor ? WhitePaper : PaperColor);
+    editor_.refreshdrawing();
+}
+
+void frmMain::showStatistics(bool shown) { lbldebug_->setVisible(shown); }
+
+void frmMain::setDebugMode(bool on) {
+    debugMode_ = on;
+    editor_.refreshdrawing();
+}
 
 } // namespace tabrova

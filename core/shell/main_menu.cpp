@@ -116,9 +116,9 @@ constexpr MenuRow Rows[] = {
     {Kind::Item, "mnuToolsOptions", "mnuTools", "&Options..."},
 
     {Kind::Menu, "mnuSound", "", "So&und"},
-    {Kind::Item, "mnuSoundPlayAll", "mnuSound", "&Play"},
-    {Kind::Item, "mnuPlayFromHere", "mnuSound", "Play &From Here"},
-    {Kind::Item, "mnuPlaybackStop", "mnuSound", "&Stop"},
+    {Kind::Item, "mnuSoundPlayAll", "mnuSound", "&Play", "F7"},
+    {Kind::Item, "mnuPlayFromHere", "mnuSound", "Play &From Here", "F8"},
+    {Kind::Item, "mnuPlaybackStop", "mnuSound", "&Stop", "F9"},
 
     {Kind::Menu, "mnuHelp", "", "&Help"},
     {Kind::Item, "mnuHelpContents", "mnuHelp", "&Contents", "F1"},

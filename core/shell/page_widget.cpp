@@ -20,11 +20,15 @@ void PageWidget::paintCursor(QPainter& painter) const {
     if (objects_.vLine1Visible)
         painter.fillRect(objects_.vLine1.x1, objects_.vLine1.y1, width,
                          objects_.vLine1.y2 - objects_.vLine1.y1, color);
-    const Rect& cursor = objects_.nCursor;
-    painter.fillRect(cursor.left, cursor.top, cursor.width, width, color);
-    painter.fillRect(cursor.left, cursor.bottom() - width, cursor.width, width, color);
-    painter.fillRect(cursor.left, cursor.top, width, cursor.height, color);
-    painter.fillRect(cursor.right() - width, cursor.top, width, cursor.height, color);
+    // A wider border grows outwards, so that the glyph in the cell stays whole.
+    const Rect& cell = objects_.nCursor;
+    const int grown = width - 1;
+    const Rect border = {cell.left - grown, cell.top - grown, cell.width + 2 * grown,
+                         cell.height + 2 * grown};
+    painter.fillRect(border.left, border.top, border.width, width, color);
+    painter.fillRect(border.left, border.bottom() - width, border.width, width, color);
+    painter.fillRect(border.left, border.top, width, border.height, color);
+    painter.fillRect(border.right() - width, border.top, width, border.height, color);
 }
 
 void PageWidget::keyPressEvent(QKeyEvent* event) {

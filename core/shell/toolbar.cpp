@@ -14,6 +14,9 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
     addButton("new", style()->standardIcon(QStyle::SP_FileIcon), tr("New (Ctrl+N)"));
     addButton("open", style()->standardIcon(QStyle::SP_DirOpenIcon), tr("Open (Ctrl+O)"));
     addButton("save", style()->standardIcon(QStyle::SP_DialogSaveButton), tr("Save (Ctrl+S)"));
+    addButton("playall", style()->standardIcon(QStyle::SP_MediaPlay), tr("Play (F7)"));
+    addButton("playfromhere", style()->standardIcon(QStyle::SP_MediaSkipForward), tr("Play From Here (F8)"));
+    addButton("stop", style()->standardIcon(QStyle::SP_MediaStop), tr("Stop (F9)"));
     row->addStretch();
 }
 

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace tabrova::testing {
 
 class DriverSession {
@@ -54,6 +56,14 @@ class DriverSession {
 
     std::string error(const QString& command) { return text(run(command)["error"]); }
     QJsonValue get(const QString& what) { return ok("get " + what)["value"]; }
+    // The names of the forms, "forms" for all loaded ones or "visible", in alphabetical order.
+    std::vector<std::string> forms(const char* which) {
+        std::vector<std::string> names;
+        for (const QJsonValue& name : ok("forms")[which].toArray())
+            names.push_back(text(name));
+        std::sort(names.begin(), names.end());
+        return names;
+    }
     QJsonObject doc() { return ok("doc"); }
     QJsonObject page() { return ok("page"); }
     QJsonObject lastBox() { return ok("boxes")["boxes"].toArray().last().toObject(); }

@@ -76,7 +76,7 @@ TEST(Shell, ShowsTheWelcomeWindowWithItsFourWays) {
                   drive.get(QString("frmAltSplash.imgOptions(%1) geometry").arg(i)));
     }
     drive.ok("click frmAltSplash 5 5");
-    EXPECT_EQ(drive.ok("forms")["forms"].toArray(), QJsonArray{"frmMain"});
+    EXPECT_EQ(drive.forms("visible"), std::vector<std::string>{"frmMain"});
 }
 
 TEST(Shell, OpensAFileFromTheWelcomeWindow) {
@@ -102,7 +102,7 @@ TEST(Shell, TheAboutWindowShowsTheVersionAndTellsOfAMissingSystemTool) {
     EXPECT_EQ(drive.lastBox()["text"].toString().toStdString(),
               "System Information Is Unavailable At This Time");
     drive.ok("press frmAbout.cmdOK Return");
-    EXPECT_EQ(drive.ok("forms")["forms"].toArray(), QJsonArray{"frmMain"});
+    EXPECT_EQ(drive.forms("visible"), std::vector<std::string>{"frmMain"});
 }
 
 TEST(Shell, AsksAtClosingEvenIfNothingChanged) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace tabrova {
 namespace {
 
@@ -21,21 +23,28 @@ class MidiBytes : public ::testing::Test {
 };
 
 // Its opening and closing are written down in their order.
-class LoggingMidiDevice : public SilentMidiDevice {
+class LoggingMidiDevice : public MidiDevice {
   public:
-    int open(int id) override {
+    int midiOutGetNumDevs() override { return 4; }
+    std::optional<QString> midiOutGetDevCapsA(int id) const override {
+        return silentIds.contains(id) ? std::nullopt : std::optional<QString>("port " + QString::number(id));
+    }
+    int midiOutOpen(std::uint32_t& handle, int id) override {
         log.push_back("open " + std::to_string(id));
+        if (openResult == 0) handle = 7;
         return openResult;
     }
-    int close() override {
-        log.push_back("close");
+    int midiOutClose(std::uint32_t handle) override {
+        log.push_back(handle == 7 ? "close" : "close of a wrong handle");
         return closeResult;
     }
-    int send(const ShortMessage&) override {
+    int midiOutShortMsg(std::uint32_t, const ShortMessage&) override {
         log.push_back("send");
         return sendResult;
     }
+    QString midiOutGetErrorTextA(int) const override { return {}; }
 
+    std::set<int> silentIds; // these tell no capabilities
     std::vector<std::string> log;
     int openResult = 0, closeResult = 0, sendResult = 0;
 };
@@ -137,14 +146,14 @@ TEST_F(MidiBytes, AFailingCloseIsReportedAndLeavesNothingOpen) {
     device.setFailing(Operation::Close, true);
     output.CloseMidiDevice();
     EXPECT_EQ(failures, std::vector<int>(1, 1));
-    EXPECT_FALSE(output.isOpen());
+    EXPECT_EQ(output.MidiOutputHandle, 0u);
 }
 
 TEST_F(MidiBytes, AFailingOpenIsReportedAndGivesFalse) {
     device.setFailing(Operation::Open, true);
     EXPECT_FALSE(output.OpenMidiDevice(0));
     EXPECT_EQ(failures, std::vector<int>(1, 1));
-    EXPECT_FALSE(output.isOpen());
+    EXPECT_EQ(output.MidiOutputHandle, 0u);
 }
 
 TEST_F(MidiBytes, SendingWithNoOpenDeviceFailsForEveryMessage) {
@@ -161,11 +170,54 @@ TEST_F(MidiBytes, ClosingWhatIsNotOpenDoesNothing) {
     EXPECT_TRUE(failures.empty());
 }
 
+std::vector<std::pair<std::string, int>> listed(MidiOutput& output) {
+    std::vector<std::pair<std::string, int>> rows;
+    for (const MidiDeviceRow& row : output.FillDeviceList())
+        rows.emplace_back(row.name.toStdString(), row.id);
+    return rows;
+}
+
+using Rows = std::vector<std::pair<std::string, int>>;
+
+TEST(MidiDevices, AreListedWithTheMapperFirstAndTheirIds) {
+    LoggingMidiDevice device;
+    MidiOutput output(device, [](int) { ADD_FAILURE(); });
+    EXPECT_EQ(listed(output),
+              (Rows{{"port -1", -1}, {"port 0", 0}, {"port 1", 1}, {"port 2", 2}, {"port 3", 3}}));
+}
+
+TEST(MidiDevices, ThatTellNoCapabilitiesAreSkippedSoThatPlacesAreNotIds) {
+    LoggingMidiDevice device;
+    device.silentIds = {0, 2};
+    MidiOutput output(device, [](int) { ADD_FAILURE(); });
+    EXPECT_EQ(listed(output), (Rows{{"port -1", -1}, {"port 1", 1}, {"port 3", 3}}));
+    device.silentIds = {-1, 0, 1, 2, 3};
+    EXPECT_TRUE(listed(output).empty());
+}
+
+TEST(MidiDevices, ThatAreGoneDropMessagesUntilOneIsOpened) {
+    LoggingMidiDevice device;
+    std::vector<int> failures;
+    MidiOutput output(device, [&failures](int code) { failures.push_back(code); });
+    output.dropUntilOpened();
+    output.ProgramChange(0, 24);
+    output.AllNotesOff();
+    EXPECT_TRUE(device.log.empty());
+    EXPECT_TRUE(failures.empty());
+    output.OpenMidiDevice(1);
+    output.NoteOn(0, 60, 1);
+    EXPECT_EQ(device.log, (std::vector<std::string>{"open 1", "send"}));
+    device.sendResult = 3;
+    output.NoteOn(0, 60, 1);
+    EXPECT_EQ(failures, std::vector<int>(1, 3));
+}
+
 TEST(MidiDevices, AreClosedBeforeAnotherOpens) {
     LoggingMidiDevice device;
     MidiOutput output(device, [](int) { ADD_FAILURE(); });
-    EXPECT_FALSE(output.isOpen());
+    EXPECT_EQ(output.MidiOutputHandle, 0u);
     EXPECT_TRUE(output.OpenMidiDevice(MidiMapperId));
+    EXPECT_EQ(output.MidiOutputHandle, 7u);
     EXPECT_TRUE(output.OpenMidiDevice(2));
     output.CloseMidiDevice();
     output.CloseMidiDevice();

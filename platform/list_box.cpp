@@ -1,0 +1,35 @@
+#include "platform/list_box.h"
+
+namespace tabrova {
+
+ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
+    setObjectName(name);
+    setUniformItemSizes(true);
+    QObject::connect(this, &QListWidget::itemClicked, this, [this] { raiseClick(); });
+}
+
+void ListBox::raiseClick() {
+    raised_ = true;
+    if (Click) Click();
+}
+
+void ListBox::mousePressEvent(QMouseEvent* event) {
+    rowAtPress_ = currentRow();
+    raised_ = false;
+    QListWidget::mousePressEvent(event);
+}
+
+// A drag from row to row chooses the last one without a click of the toolkit's own.
+void ListBox::mouseReleaseEvent(QMouseEvent* event) {
+    QListWidget::mouseReleaseEvent(event);
+    if (!raised_ && currentRow() != rowAtPress_) raiseClick();
+    rowAtPress_ = currentRow();
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    const int before = currentRow();
+    QListWidget::keyPressEvent(event);
+    if (currentRow() != before) raiseClick();
+}
+
+} // namespace tabrova

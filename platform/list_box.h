@@ -1,0 +1,29 @@
+// A list with one Click event for each act of the user: a mouse click, also on the row that is chosen
+// already, and a move of the selection by keys. A selection by the program raises none.
+#pragma once
+
+#include <QListWidget>
+
+#include <functional>
+
+namespace tabrova {
+
+class ListBox : public QListWidget {
+  public:
+    ListBox(const QString& name, QWidget* parent);
+
+    std::function<void()> Click;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void raiseClick();
+
+    int rowAtPress_ = -1;
+    bool raised_ = false;
+};
+
+} // namespace tabrova

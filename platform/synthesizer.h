@@ -1,0 +1,41 @@
+// What the built-in synthesizer tells of itself and what can be asked of it, besides the messages that it
+// takes as a MIDI device.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace tabrova {
+
+struct SynthesizerState {
+    bool running = false; // the device in use is the synthesizer
+    bool loading = false; // bank and output are being looked for
+    QString bank;         // file of the sound bank in use; "" for none
+    QString output;       // audio output in use; "" for none
+    QString trouble;      // in plain words what is missing and what to do; "" when all is well
+};
+
+class Synthesizer {
+  public:
+    virtual ~Synthesizer() = default;
+    virtual SynthesizerState state() const = 0;
+    // Takes this sound bank (SF2 or SF3) from now on; "" goes back to the one found by itself. The bank loads
+    // in the background.
+    virtual void useBank(const QString& file) = 0;
+    // Called on the user-interface thread whenever the state has changed.
+    std::function<void()> changed;
+};
+
+// Sounds nothing: keeps what it was asked and tells what it was given.
+class RecordingSynthesizer : public Synthesizer {
+  public:
+    SynthesizerState state() const override { return told; }
+    void useBank(const QString& file) override {
+        told.bank = file;
+        if (changed) changed();
+    }
+    SynthesizerState told;
+};
+
+} // namespace tabrova

@@ -1,0 +1,214 @@
+#include "sound/devices/fluid_synthesizer.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace tabrova {
+
+namespace {
+
+constexpr int HighestData = 127;
+constexpr int ControllerAllSoundOff = 120;
+constexpr double SampleRate = 48000.0;
+constexpr double Gain = 0.5;
+
+// The audio outputs in the order in which they are tried.
+struct AudioOutput {
+    const char* driver;
+    const char* name;
+    int periodSize; // frames
+    int periods;
+};
+constexpr std::array Outputs = {AudioOutput{"pulseaudio", "PulseAudio", 256, 2},
+                                AudioOutput{"pipewire", "PipeWire", 256, 2},
+                                AudioOutput{"jack", "JACK", 256, 2},
+                                AudioOutput{"alsa", "ALSA", 256, 3},
+                                AudioOutput{"coreaudio", "CoreAudio", 256, 2},
+                                AudioOutput{"wasapi", "WASAPI", 256, 3},
+                                AudioOutput{"dsound", "DirectSound", 256, 4},
+                                AudioOutput{"portaudio", "PortAudio", 256, 3},
+                                AudioOutput{"oboe", "Oboe", 256, 2},
+                                AudioOutput{"oss", "OSS", 256, 3}};
+
+QString textOf(const std::filesystem::path& path) { return QString::fromStdU16String(path.u16string()); }
+
+std::vector<std::string> builtInDrivers(fluid_settings_t* settings) {
+    std::vector<std::string> names;
+    fluid_settings_foreach_option(settings, "audio.driver", &names,
+                                  [](void* list, const char*, const char* name) {
+                                      static_cast<std::vector<std::string>*>(list)->push_back(name);
+                                  });
+    return names;
+}
+
+// The synthesizer's library writes nothing to the terminal: what matters is in the state.
+void silenceLibraryLog() {
+    for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
+        fluid_set_log_function(
+            level, [](int, const char*, void*) {}, nullptr);
+}
+
+} // namespace
+
+FluidSynthesizer::FluidSynthesizer(SoundBankPlaces places) : places_(std::move(places)) {
+    silenceLibraryLog();
+}
+
+FluidSynthesizer::~FluidSynthesizer() { close(); }
+
+void FluidSynthesizer::open() {
+    close();
+    {
+        const std::lock_guard lock(mutex_);
+        programs_ = {};
+        state_.running = true;
+        state_.loading = true;
+        state_.trouble.clear();
+    }
+    loader_ = std::thread([this, places = places_] { load(places); });
+    tellChanged();
+}
+
+void FluidSynthesizer::close() {
+    waitUntilLoaded();
+    {
+        const std::lock_guard lock(mutex_);
+        ready_ = false;
+        state_.running = false;
+        state_.output.clear();
+    }
+    driver_.reset();
+    if (synth_) fluid_synth_all_sounds_off(synth_.get(), -1);
+    tellChanged();
+}
+
+void FluidSynthesizer::waitUntilLoaded() {
+    if (loader_.joinable()) loader_.join();
+}
+
+void FluidSynthesizer::useBank(const QString& file) {
+    places_.setting = std::filesystem::path(file.toStdU16String());
+    if (state().running) open();
+}
+
+SynthesizerState FluidSynthesizer::state() const {
+    const std::lock_guard lock(mutex_);
+    return state_;
+}
+
+void FluidSynthesizer::tellChanged() {
+    QMetaObject::invokeMethod(
+        &thread_,
+        [this] {
+            if (changed) changed();
+        },
+        Qt::QueuedConnection);
+}
+
+void FluidSynthesizer::load(const SoundBankPlaces& places) {
+    makeSynthesizer();
+    QString trouble = loadBank(places);
+    if (bankId_ != FLUID_FAILED) trouble += openOutput();
+    finishLoading(trouble.trimmed());
+}
+
+void FluidSynthesizer::makeSynthesizer() {
+    if (synth_) return;
+    settings_.reset(new_fluid_settings());
+    fluid_settings_setnum(settings_.get(), "synth.sample-rate", SampleRate);
+    fluid_settings_setnum(settings_.get(), "synth.gain", Gain);
+    fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
+    fluid_settings_setstr(settings_.get(), "audio.jack.id", "Tabrova");
+    fluid_settings_setint(settings_.get(), "audio.pulseaudio.adjust-latency", 1);
+    synth_.reset(new_fluid_synth(settings_.get()));
+}
+
+// The first bank that loads; the one in use stays as it is.
+QString FluidSynthesizer::loadBank(const SoundBankPlaces& places) {
+    const auto banks = soundBanks(places);
+    for (const auto& bank : banks) {
+        if (bankId_ != FLUID_FAILED && bank == bankFile_) break;
+        const int id = fluid_synth_sfload(synth_.get(), textOf(bank).toUtf8().constData(), 1);
+        if (id == FLUID_FAILED) continue;
+        if (bankId_ != FLUID_FAILED) fluid_synth_sfunload(synth_.get(), static_cast<unsigned>(bankId_), 1);
+        bankId_ = id;
+        bankFile_ = bank;
+        break;
+    }
+    if (bankId_ == FLUID_FAILED)
+        return "No sound bank was found, so nothing can be heard. Install one (on Debian the package "
+               "timgm6mb-soundfont or fluid-soundfont-gm) or choose an SF2 or SF3 file. ";
+    if (!places.setting.empty() && bankFile_ != places.setting)
+        return QFileInfo(textOf(places.setting)).fileName() +
+               " is no sound bank that can be read; another one is in use. ";
+    return {};
+}
+
+QString FluidSynthesizer::openOutput() {
+    const auto available = builtInDrivers(settings_.get());
+    for (const AudioOutput& output : Outputs) {
+        if (std::find(available.begin(), available.end(), output.driver) == available.end()) continue;
+        fluid_settings_setstr(settings_.get(), "audio.driver", output.driver);
+        fluid_settings_setint(settings_.get(), "audio.period-size", output.periodSize);
+        fluid_settings_setint(settings_.get(), "audio.periods", output.periods);
+        driver_.reset(new_fluid_audio_driver(settings_.get(), synth_.get()));
+        if (!driver_) continue;
+        const std::lock_guard lock(mutex_);
+        state_.output = output.name;
+        return {};
+    }
+    return "No audio output could be opened, so nothing can be heard. Connect a sound card, or start a sound "
+           "server (on Debian the package pipewire-pulse or pulseaudio), then choose the output device "
+           "again. ";
+}
+
+void FluidSynthesizer::finishLoading(const QString& trouble) {
+    {
+        const std::lock_guard lock(mutex_);
+        state_.loading = false;
+        state_.bank = bankId_ == FLUID_FAILED ? QString() : textOf(bankFile_);
+        state_.trouble = trouble;
+        ready_ = driver_ && bankId_ != FLUID_FAILED;
+        for (std::size_t channel = 0; ready_ && channel < programs_.size(); ++channel)
+            if (programs_[channel])
+                fluid_synth_program_change(synth_.get(), static_cast<int>(channel), *programs_[channel]);
+    }
+    tellChanged();
+}
+
+void FluidSynthesizer::send(const ShortMessage& message) {
+    const std::lock_guard lock(mutex_);
+    if (message[1] > HighestData || message[2] > HighestData) return;
+    if (ready_) return play(message);
+    if ((message[0] & 0xF0) == 0xC0) programs_[message[0] & 0x0F] = message[1];
+}
+
+void FluidSynthesizer::play(const ShortMessage& message) {
+    fluid_synth_t* synth = synth_.get();
+    const int channel = message[0] & 0x0F;
+    switch (message[0] & 0xF0) {
+    case 0x80:
+        fluid_synth_noteoff(synth, channel, message[1]);
+        break;
+    case 0x90:
+        fluid_synth_noteon(synth, channel, message[1], message[2]);
+        break;
+    case 0xB0:
+        if (message[1] == ControllerAllSoundOff) return cutChannel(channel);
+        fluid_synth_cc(synth, channel, message[1], message[2]);
+        break;
+    case 0xC0:
+        fluid_synth_program_change(synth, channel, message[1]);
+        break;
+    case 0xE0:
+        fluid_synth_pitch_bend(synth, channel, message[1] + message[2] * 128);
+        break;
+    default:
+        break;
+    }
+}
+
+void FluidSynthesizer::cutChannel(int channel) { fluid_synth_all_sounds_off(synth_.get(), channel); }
+
+} // namespace tabrova
