@@ -1,5 +1,7 @@
 #include "sound/devices/fluid_synthesizer.h"
 
+#include "sound/devices/quiet_libraries.h"
+
 #include <QFileInfo>
 
 #include <algorithm>
@@ -53,6 +55,7 @@ void silenceLibraryLog() {
 
 FluidSynthesizer::FluidSynthesizer(SoundBankPlaces places) : places_(std::move(places)) {
     silenceLibraryLog();
+    silenceSoundLibraries();
 }
 
 FluidSynthesizer::~FluidSynthesizer() { close(); }
