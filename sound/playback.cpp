@@ -3,8 +3,6 @@
 #include "sound/pitch.h"
 
 #include <algorithm>
-#include <set>
-#include <tuple>
 
 namespace tabrova {
 
@@ -147,6 +145,14 @@ class Tick {
   private:
     enum class Next { Column, Tick };
 
+    // A jump back, and how many columns waited before it.
+    struct Jump {
+        int column;
+        std::int32_t start;
+        std::int16_t repeatsLeft;
+        std::size_t waiting;
+    };
+
     std::string_view markPlayed() const { return document_.barMark(state_.PlaybackPosition - 1); }
 
     Next playColumn() {
@@ -157,13 +163,13 @@ class Tick {
         ++state_.PlaybackPosition;
         openRepeat();
         if (jumpsBack()) {
+            const bool endless = comesRound(column);
             waiting_.push_back(jump);
-            return seenBefore(column) ? Next::Tick : Next::Column;
+            return endless ? Next::Tick : Next::Column;
         }
         while (!finishColumn(jump)) {
             if (waiting_.empty()) return Next::Tick;
-            jump = waiting_.back();
-            waiting_.pop_back();
+            jump = takeWaiting();
         }
         return Next::Column;
     }
@@ -192,16 +198,31 @@ class Tick {
         return jump && state_.InRepeat == False16;
     }
 
-    // The same jump from the same column within one tick would come round for ever.
-    bool seenBefore(int column) {
-        return !jumps_.emplace(column, state_.RepeatStartColumn, state_.RepeatsLeft).second;
+    // True if this tick made the same jump before and has not used up any column that waited then: it would
+    // come round for ever.
+    bool comesRound(int column) {
+        const Jump jump = {column, state_.RepeatStartColumn, state_.RepeatsLeft, waiting_.size()};
+        const bool seen = std::ranges::any_of(jumps_, [&](const Jump& made) {
+            return made.column == jump.column && made.start == jump.start &&
+                   made.repeatsLeft == jump.repeatsLeft;
+        });
+        jumps_.push_back(jump);
+        return seen;
+    }
+
+    bool takeWaiting() {
+        const bool jump = waiting_.back();
+        waiting_.pop_back();
+        while (!jumps_.empty() && jumps_.back().waiting > waiting_.size())
+            jumps_.pop_back();
+        return jump;
     }
 
     const Document& document_;
     PlaybackState& state_;
     MidiOutput& output_;
     std::vector<bool> waiting_; // the ">" flags of the columns that jumped back
-    std::set<std::tuple<int, int, int>> jumps_;
+    std::vector<Jump> jumps_;   // those whose waiting columns all still wait
 };
 
 } // namespace

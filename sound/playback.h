@@ -20,7 +20,7 @@ enum class TickResult { Playing, Ended };
 
 // Plays the column at state.PlaybackPosition, and every column that follows it in no time. Past the last
 // column it sends nothing and answers Ended: the caller stops the timer and silences the channels.
-// A passage of no length that repeats for ever takes one tick a round.
+// A passage of no length that repeats for ever is left in its second round, and goes on at the next tick.
 TickResult playTick(const Document& document, PlaybackState& state, MidiOutput& output);
 
 } // namespace tabrova

@@ -11,7 +11,7 @@ namespace tabrova {
 namespace {
 
 constexpr int HighestData = 127;
-constexpr int ControllerAllSoundOff = 120;
+constexpr int MostVoices = 256;
 constexpr double SampleRate = 48000.0;
 constexpr double Gain = 0.5;
 
@@ -121,6 +121,7 @@ void FluidSynthesizer::makeSynthesizer() {
     settings_.reset(new_fluid_settings());
     fluid_settings_setnum(settings_.get(), "synth.sample-rate", SampleRate);
     fluid_settings_setnum(settings_.get(), "synth.gain", Gain);
+    fluid_settings_setint(settings_.get(), "synth.polyphony", MostVoices);
     fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
     fluid_settings_setstr(settings_.get(), "audio.jack.id", "Tabrova");
     fluid_settings_setint(settings_.get(), "audio.pulseaudio.adjust-latency", 1);
@@ -195,10 +196,9 @@ void FluidSynthesizer::play(const ShortMessage& message) {
         fluid_synth_noteoff(synth, channel, message[1]);
         break;
     case 0x90:
-        fluid_synth_noteon(synth, channel, message[1], message[2]);
+        if (message[2] == 0 || hasRoomForNote()) fluid_synth_noteon(synth, channel, message[1], message[2]);
         break;
     case 0xB0:
-        if (message[1] == ControllerAllSoundOff) return cutChannel(channel);
         fluid_synth_cc(synth, channel, message[1], message[2]);
         break;
     case 0xC0:
@@ -212,6 +212,16 @@ void FluidSynthesizer::play(const ShortMessage& message) {
     }
 }
 
-void FluidSynthesizer::cutChannel(int channel) { fluid_synth_all_sounds_off(synth_.get(), channel); }
+// More notes at one moment than there are voices only take each other's place, at great cost: they are passed
+// over.
+bool FluidSynthesizer::hasRoomForNote() {
+    constexpr std::chrono::milliseconds Moment(5);
+    const auto now = std::chrono::steady_clock::now();
+    if (now - burstStart_ > Moment) {
+        burstStart_ = now;
+        notesInBurst_ = 0;
+    }
+    return ++notesInBurst_ <= MostVoices;
+}
 
 } // namespace tabrova

@@ -12,6 +12,7 @@
 
 #include <fluidsynth.h>
 
+#include <chrono>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -47,7 +48,7 @@ class FluidSynthesizer : public Synthesizer {
     QString loadBank(const SoundBankPlaces& places);
     QString openOutput();
     void play(const ShortMessage& message);
-    void cutChannel(int channel);
+    bool hasRoomForNote();
     void finishLoading(const QString& trouble);
     void tellChanged();
 
@@ -66,6 +67,8 @@ class FluidSynthesizer : public Synthesizer {
     bool ready_ = false;
     SynthesizerState state_;
     std::array<std::optional<std::uint8_t>, 16> programs_; // chosen while the bank loads
+    std::chrono::steady_clock::time_point burstStart_;
+    int notesInBurst_ = 0;
 };
 
 } // namespace tabrova
