@@ -1,5 +1,6 @@
 // Note entry: one typed note is stored, its one cell drawn and its column sounded, with no walk over the
 // page.
+#include "core/bar_marks.h"
 #include "core/document_operations.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
@@ -22,7 +23,7 @@ std::optional<std::string> barMarkOf(int code) {
     if (code == code::OpenedRepeat) return "r";
     if (code == code::ClosedRepeatPanel) return "";
     const int count = code - code::ClosedRepeatBase;
-    if (count >= 1 && count <= code::MostRepeats) return "r" + std::to_string(count);
+    if (count >= 1 && count <= MostRepeats) return closedRepeatMark(count);
     return std::nullopt;
 }
 

@@ -30,8 +30,7 @@ constexpr int ShiftBit = 1;
 namespace tabrova::code {
 
 constexpr int ClosedRepeatBase = 1000; // 1001 to 1015: "r1" to "r15"
-constexpr int MostRepeats = 15;
-constexpr int FirstBend = 1200; // 1200 to 1205 under the string, 1206 to 1211 above it
+constexpr int FirstBend = 1200;        // 1200 to 1205 under the string, 1206 to 1211 above it
 constexpr int LastBend = 1211;
 constexpr int OpenedRepeat = 3000;
 constexpr int ClosedRepeatPanel = 4000;

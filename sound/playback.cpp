@@ -1,5 +1,6 @@
 #include "sound/playback.h"
 
+#include "core/bar_marks.h"
 #include "sound/pitch.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace tabrova {
 namespace {
 
 constexpr int RingChannel = 1; // notes that ring on: nothing but stop ends them
-constexpr int MostRepeats = 15;
 
 bool trackSounds(const Document& document, int column, int track) {
     const int first = track * StringsPerTrack;
@@ -119,12 +119,6 @@ bool playTracks(const Document& document, int column, MidiOutput& output) {
     return jump;
 }
 
-std::int16_t repeatsOf(std::string_view mark) {
-    for (std::int16_t count = 1; count <= MostRepeats; ++count)
-        if (mark == "r" + std::to_string(count)) return count;
-    return 0;
-}
-
 // Any mark that is none of these acts as the closing one of a running repeat.
 bool closesRepeat(std::string_view mark) { return mark != "r" && mark != "." && !mark.empty(); }
 
@@ -177,9 +171,9 @@ class Tick {
     void openRepeat() {
         const std::string_view mark = markPlayed();
         if (mark == "r") state_.RepeatStartColumn = state_.PlaybackPosition - 1;
-        const std::int16_t repeats = repeatsOf(mark);
-        if (repeats == 0 || state_.InRepeat != False16 || state_.RepeatsLeft != 0) return;
-        state_.RepeatsLeft = repeats;
+        const auto repeats = closedRepeatCount(mark);
+        if (!repeats || state_.InRepeat != False16 || state_.RepeatsLeft != 0) return;
+        state_.RepeatsLeft = static_cast<std::int16_t>(*repeats);
         state_.InRepeat = True16;
     }
 

@@ -1,5 +1,7 @@
 #include "tabview/page_marks.h"
 
+#include "core/bar_marks.h"
+
 #include "tabview/page_geometry.h"
 
 namespace tabrova {

@@ -9,7 +9,6 @@ constexpr int HighestFret = 29;
 constexpr int FirstDrum = 35;
 constexpr int FirstDrumOfSecondRow = 64;
 constexpr int LastDrum = 81;
-constexpr int MostRepeats = 15;
 constexpr int RepeatsInFirstRow = 8;
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
@@ -40,13 +39,6 @@ std::optional<Rect> percussionGlyph(std::string_view text) {
     if (*drum < FirstDrumOfSecondRow) return cell(11 + CellPitch * (*drum - FirstDrum), 1);
     // The last of them is deliberately the jump mark's cell.
     return cell(1 + CellPitch * (*drum - FirstDrumOfSecondRow), 9);
-}
-
-std::optional<int> closedRepeatCount(std::string_view mark) {
-    if (mark.size() < 2 || mark.front() != 'r') return std::nullopt;
-    const auto count = shortNumber(mark.substr(1));
-    if (!count || *count < 1 || *count > MostRepeats) return std::nullopt;
-    return count;
 }
 
 Rect repeatCountGlyph(int count) {

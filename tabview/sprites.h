@@ -44,8 +44,6 @@ std::optional<Rect> noteGlyph(std::string_view text);
 // The cell of the drum keys "35" to "81" on a percussion track.
 std::optional<Rect> percussionGlyph(std::string_view text);
 
-// The number of "r1" to "r15"; nothing for any other text.
-std::optional<int> closedRepeatCount(std::string_view mark);
 // The cell that shows the number of passes of a repeat, which is `count` + 1.
 Rect repeatCountGlyph(int count);
 

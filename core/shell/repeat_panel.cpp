@@ -1,6 +1,6 @@
 #include "core/shell/repeat_panel.h"
 
-#include "editing/key_codes.h"
+#include "core/bar_marks.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -26,7 +26,7 @@ QLabel* addLabel(const char* name, const QString& text, const QRect& place, QWid
 
 RepeatScroller::RepeatScroller(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setObjectName("RepeatScroller");
-    setRange(1, code::MostRepeats);
+    setRange(1, MostRepeats);
     setFocusPolicy(Qt::StrongFocus);
 }
 
