@@ -13,7 +13,7 @@ namespace {
 constexpr int HighestData = 127;
 constexpr int MostVoices = 256;
 constexpr double SampleRate = 48000.0;
-constexpr double Gain = 0.5;
+constexpr double Gain = 0.8;
 
 // The audio outputs in the order in which they are tried.
 struct AudioOutput {
