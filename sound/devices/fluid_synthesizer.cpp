@@ -11,9 +11,11 @@ namespace tabrova {
 namespace {
 
 constexpr int HighestData = 127;
+constexpr int ControllerAllSoundOff = 120;
 constexpr int MostVoices = 256;
 constexpr double SampleRate = 48000.0;
 constexpr double Gain = 0.8;
+constexpr double ReverbLevel = 0.3; // a small room: what is stopped is soon silent
 
 // The audio outputs in the order in which they are tried.
 struct AudioOutput {
@@ -121,6 +123,8 @@ void FluidSynthesizer::makeSynthesizer() {
     settings_.reset(new_fluid_settings());
     fluid_settings_setnum(settings_.get(), "synth.sample-rate", SampleRate);
     fluid_settings_setnum(settings_.get(), "synth.gain", Gain);
+    fluid_settings_setnum(settings_.get(), "synth.reverb.level", ReverbLevel);
+    fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
     fluid_settings_setint(settings_.get(), "synth.polyphony", MostVoices);
     fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
     fluid_settings_setstr(settings_.get(), "audio.jack.id", "Tabrova");
@@ -199,6 +203,7 @@ void FluidSynthesizer::play(const ShortMessage& message) {
         if (message[2] == 0 || hasRoomForNote()) fluid_synth_noteon(synth, channel, message[1], message[2]);
         break;
     case 0xB0:
+        if (message[1] == ControllerAllSoundOff) return cutChannel(channel);
         fluid_synth_cc(synth, channel, message[1], message[2]);
         break;
     case 0xC0:
@@ -210,6 +215,21 @@ void FluidSynthesizer::play(const ShortMessage& message) {
     default:
         break;
     }
+}
+
+// Fades what sounds within a hundredth of a second: a cut to nothing clicks. The library's own cut is also
+// undone by the all-notes-off that follows it.
+void FluidSynthesizer::cutChannel(int channel) {
+    constexpr float TenMilliseconds = -7973.0f; // in timecents
+    std::array<fluid_voice_t*, MostVoices> voices{};
+    fluid_synth_get_voicelist(synth_.get(), voices.data(), MostVoices, -1);
+    for (fluid_voice_t* voice : voices) {
+        if (!voice) break;
+        if (fluid_voice_get_channel(voice) != channel) continue;
+        fluid_voice_gen_set(voice, GEN_VOLENVRELEASE, TenMilliseconds);
+        fluid_voice_update_param(voice, GEN_VOLENVRELEASE);
+    }
+    fluid_synth_all_notes_off(synth_.get(), channel);
 }
 
 // More notes at one moment than there are voices only take each other's place, at great cost: they are passed

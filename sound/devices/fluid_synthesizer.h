@@ -48,6 +48,7 @@ class FluidSynthesizer : public Synthesizer {
     QString loadBank(const SoundBankPlaces& places);
     QString openOutput();
     void play(const ShortMessage& message);
+    void cutChannel(int channel);
     bool hasRoomForNote();
     void finishLoading(const QString& trouble);
     void tellChanged();
