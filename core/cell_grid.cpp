@@ -32,4 +32,29 @@ void CellGrid::clear(int first, int count, int firstRow, int rowCount) {
     }
 }
 
+void CellGrid::insertColumns(int at, int count, int end) {
+    if (at >= end) return;
+    const auto first = columns_.begin() + at;
+    const auto last = columns_.begin() + end;
+    count = std::min(count, end - at);
+    std::rotate(first, last - count, last);
+    std::for_each(first, first + count, [](CellColumn& column) { column.reset(); });
+}
+
+void CellGrid::removeColumns(int at, int count, int end) {
+    if (at >= end) return;
+    const auto first = columns_.begin() + at;
+    const auto last = columns_.begin() + end;
+    count = std::min(count, end - at);
+    std::rotate(first, first + count, last);
+    std::for_each(last - count, last, [](CellColumn& column) { column.reset(); });
+}
+
+void CellGrid::copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount) {
+    if (from < 0 || from >= source.columns() || to < 0 || to >= columns()) return;
+    const int rowEnd = std::min({firstRow + rowCount, rows_, source.rows_});
+    if (firstRow < 0 || firstRow >= rowEnd) return;
+    columns_[static_cast<std::size_t>(to)].copyRows(source.column(from), firstRow, rowEnd - firstRow, rows_);
+}
+
 } // namespace tabrova

@@ -33,6 +33,16 @@ class CellGrid {
     void clear(int first, int count, int firstRow, int rowCount);
     void clear() { clear(0, columns(), 0, rows_); }
 
+    // Columns `at` to `end` - `count` - 1 move `count` to the right; the `count` columns at `at` become "",
+    // and what stood in the last `count` before `end` is lost. 0 <= at, end <= columns().
+    void insertColumns(int at, int count, int end);
+    // Columns `at` + `count` to `end` - 1 move `count` to the left; the last `count` columns before `end`
+    // become "".
+    void removeColumns(int at, int count, int end);
+    // The rows firstRow to firstRow + rowCount - 1 of column `to` take the cells of column `from` of
+    // `source`. Outside the grids nothing is changed.
+    void copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount);
+
   private:
     std::vector<CellColumn> columns_;
     int rows_ = 0;

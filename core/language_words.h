@@ -10,6 +10,7 @@ struct LanguageWords {
     std::string of = "of";
     std::string staff = "Staff";
     std::string selectedTrack = "selected";
+    std::string clearOnlyStaffQuestion = "This is the only staff. Do you want to clear it?";
     std::string saveQuestion = "Do you want to save the changes to";
 };
 

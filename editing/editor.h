@@ -5,6 +5,7 @@
 #include "core/document.h"
 #include "core/language_words.h"
 #include "editing/editor_host.h"
+#include "editing/structure_edits.h"
 #include "sound/midi_output.h"
 #include "tabview/tab_view.h"
 
@@ -51,6 +52,20 @@ class Editor {
     // The scroll bar was moved to `value`, which is brought into its range.
     void VScroll1_Change(int value);
 
+    // Commands that change the shape of the grid. Each redraws.
+    void clearCurrentStaff(const StaffClear& what);
+    void mnuEditNewBarAfterCurrentBar();
+    void mnuEditNewBarBeforeCurrent();
+    void mnuEditnewBarAtEndofDocument();
+    void mnuDeleteBar();
+    void InsertColumnAllTracks();
+    void InsertColumnOnTrack();
+    void RemoveColumnAllTracks();
+    void RemoveColumnOnTrack();
+    // The note at the cursor takes this many columns: 1 is a sixteenth, 16 a whole note, 3 the "triplet".
+    void SetNoteLength(int columns);
+    void pasteColumns(Rows rows);
+
     void refreshdrawing();
     // The page has a new size: the cursor is pulled back onto it.
     void pageResized();
@@ -80,6 +95,8 @@ class Editor {
     void soundColumn();
     void removeBarMark();
     void runKey(int keyCode, int shift);
+
+    void finishStructureEdit();
 
     void placeCursorAt(int x, int y);
     void updateScrollRange();

@@ -41,6 +41,8 @@ class EditorHost {
     // The preview's stopper starts afresh; without an interval it keeps its old one.
     virtual void restartSoundStopper(std::optional<int> milliseconds) = 0;
     virtual void unloadFileProperties() = 0;
+    // The document's only staff cannot be deleted: may it be cleared instead?
+    virtual bool confirmClearingOnlyStaff() = 0;
     virtual bool debugMode() const = 0;
     virtual bool playing() const = 0;
 };

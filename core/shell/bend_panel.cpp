@@ -20,6 +20,10 @@ constexpr int PanelWidth = Columns * CellWidth + 2;
 constexpr int PanelHeight = 62;
 const char* const Sizes[Columns] = {"½", "1", "1½", "2", "2½", "3"};
 
+QRect cellAt(int row, int column) {
+    return {column * CellWidth, FirstTop + row * CellHeight, CellWidth, CellHeight};
+}
+
 // A label that gives the keyboard back to the panel when it is clicked.
 class PanelLabel : public QLabel {
   public:
@@ -48,6 +52,8 @@ BendPanel::BendPanel(QWidget* parent) : QFrame(parent) {
     picture->setGeometry(1, FirstTop, PanelWidth - 2, 2 * CellHeight);
     auto* hint = new PanelLabel("Label2", "Use Arrow Keys to Select", this);
     hint->setGeometry(4, FirstTop + 2 * CellHeight + 1, PanelWidth - 6, 15);
+    BendCursor_ = new HighlightShape("BendCursor", this);
+    BendCursor_->setGeometry(cellAt(0, 0));
     hide();
 }
 
@@ -72,7 +78,7 @@ void BendPanel::keyPressEvent(QKeyEvent* event) {
     default:
         break;
     }
-    update();
+    BendCursor_->setGeometry(cellAt(row_, column_));
 }
 
 void BendPanel::paintEvent(QPaintEvent* event) {
@@ -87,12 +93,9 @@ void BendPanel::paintCells(QPainter& painter) const {
     painter.setFont(small);
     for (int row = 0; row < 2; ++row) {
         for (int column = 0; column < Columns; ++column) {
-            const QRect cell(column * CellWidth + 1, FirstTop + row * CellHeight, CellWidth, CellHeight);
-            const bool chosenCell = row == row_ && column == column_; // BendCursor
-            if (chosenCell) painter.fillRect(cell, palette().highlight());
-            painter.setPen(palette().color(chosenCell ? QPalette::HighlightedText : QPalette::WindowText));
+            painter.setPen(palette().color(QPalette::WindowText));
             const QString arrow = row == 0 ? QStringLiteral("↓") : QStringLiteral("↑");
-            painter.drawText(cell, Qt::AlignCenter, arrow + QString::fromUtf8(Sizes[column]));
+            painter.drawText(cellAt(row, column), Qt::AlignCenter, arrow + QString::fromUtf8(Sizes[column]));
         }
     }
 }

@@ -2,6 +2,8 @@
 // way out.
 #pragma once
 
+#include "core/shell/highlight_shape.h"
+
 #include <QFrame>
 
 #include <functional>
@@ -15,10 +17,6 @@ class BendPanel : public QFrame {
     // Enter: the technique code at the highlight.
     std::function<void(int code)> chosen;
 
-    // The highlight's cell; it stays for the next opening.
-    int column() const { return column_; }
-    int rowOfBends() const { return row_; }
-
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -28,6 +26,7 @@ class BendPanel : public QFrame {
 
     int column_ = 0;
     int row_ = 0;
+    HighlightShape* BendCursor_;
 };
 
 } // namespace tabrova

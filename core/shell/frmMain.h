@@ -69,6 +69,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void focusPage() override;
     void restartSoundStopper(std::optional<int> milliseconds) override;
     void unloadFileProperties() override;
+    bool confirmClearingOnlyStaff() override;
     bool debugMode() const override { return debugMode_; }
     bool playing() const override { return Hitime1_->Enabled(); }
 
@@ -86,6 +87,9 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void connectPanels();
     void connectMenus();
     void connectNoteMenu();
+    void connectStaffMenu();
+    void connectClipboardMenu();
+    void runToolbarWord(const QString& word);
     void chooseMode(bool powerChord);
     void connectPage();
     void LoadLanguage();

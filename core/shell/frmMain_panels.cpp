@@ -3,6 +3,7 @@
 #include "core/document_operations.h"
 #include "core/shell/code_page_text.h"
 #include "core/shell/frmMain.h"
+#include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
 
 #include <QPainter>
@@ -81,14 +82,10 @@ void frmMain::connectPanels() {
     noteSelector_->closed = [this] { closePanel(*noteSelector_); };
     bendPanel_->chosen = [this](int code) { closeBendPanel(code); };
     repeatPanel_->chosen = [this](int value) { closeRepeatPanel(value); };
-    toolbar_->pressed = [this](const QString& word) {
-        const QHash<QString, QString> items = {{"new", "mnuFileNew"},
-                                               {"open", "mnuFileOpen"},
-                                               {"save", "mnuFileSave"},
-                                               {"playall", "mnuSoundPlayAll"},
-                                               {"playfromhere", "mnuPlayFromHere"},
-                                               {"stop", "mnuPlaybackStop"}};
-        if (items.contains(word)) menu_->action(items.value(word))->trigger();
+    toolbar_->pressed = [this](const QString& word) { runToolbarWord(word); };
+    toolbar_->available = [this](const QString& word) {
+        const ToolbarCommand command = toolbarCommand(word);
+        return command.kind != ToolbarCommand::Kind::MenuItem || menu_->action(command.menuItem)->isEnabled();
     };
 }
 
@@ -109,49 +106,6 @@ void frmMain::connectPage() {
         editor_.VScroll1_Change(editor_.scroll().value + document_.VisibleStaves);
     };
     page_->setHandlers(std::move(handlers));
-}
-
-void frmMain::connectMenus() {
-    menu_->connectItem("mnuFileNew", [this] { commands_.mnuFileNew(); });
-    menu_->connectItem("mnuFileOpen", [this] { commands_.mnuFileOpen(); });
-    menu_->connectItem("mnuFileSave", [this] { commands_.mnuFileSave(); });
-    menu_->connectItem("mnuSaveAs", [this] { commands_.mnuSaveAs(); });
-    menu_->connectItem("mnuExit", [this] { close(); });
-    menu_->connectItem("mnuStandard", [this] { chooseMode(false); });
-    menu_->connectItem("mnuCCP", [this] { chooseMode(true); });
-    menu_->connectItem("mnuIntelligent",
-                       [this] { editor_.modes.intelligent = menu_->isChecked("mnuIntelligent"); });
-    menu_->connectItem("mnuViewNotation", [this] { mnuViewNotation(); });
-    menu_->connectItem("mnuViewRefresh", [this] { editor_.refreshdrawing(); });
-    menu_->connectItem("mnuToolsOptions", [this] { showOptions(); });
-    menu_->connectItem("mnuSoundPlayAll", [this] { play(PlayFrom::Start); });
-    menu_->connectItem("mnuPlayFromHere", [this] { play(PlayFrom::Cursor); });
-    menu_->connectItem("mnuPlaybackStop", [this] { mnuPlaybackStop(); });
-    menu_->connectItem("mnuTechSupport",
-                       [this] { openSettingAddress("SupportAddress", "mailto:support@tabrova.invalid"); });
-    menu_->connectItem("mnuNewVersionCheck",
-                       [this] { openSettingAddress("UpdatePage", "https://tabrova.invalid/update"); });
-    menu_->connectItem("mnuAbout", [this] { showAbout(); });
-    menu_->setChecked("mnuStandard", true);
-    connectNoteMenu();
-}
-
-void frmMain::connectNoteMenu() {
-    const auto sends = [this](const char* name, int keyCode, int shift) {
-        menu_->connectItem(name, [this, keyCode, shift] { editor_.picDocument_KeyDown(keyCode, shift); });
-    };
-    sends("mnuNoteDeleteNote", key::Delete, 0);
-    sends("mnuNoteDeleteTechnique", key::Delete, key::ShiftBit);
-    sends("mnuInsertSeparator", key::Enter, 0);
-    sends("mnuInsertOpenRepeat", key::Space, 0);
-    sends("mnuInsertClosedRepeat", key::Space, key::ShiftBit);
-    sends("mnuNoteRemoveBar", key::U, 0);
-}
-
-void frmMain::chooseMode(bool powerChord) {
-    editor_.modes.powerChord = powerChord;
-    menu_->setChecked("mnuStandard", !powerChord);
-    menu_->setChecked("mnuCCP", powerChord);
 }
 
 void frmMain::placePanels() {
@@ -271,6 +225,14 @@ void frmMain::restartSoundStopper(std::optional<int> milliseconds) {
 }
 
 void frmMain::unloadFileProperties() {}
+
+bool frmMain::confirmClearingOnlyStaff() {
+    const BoxAnswer answer = services_.boxes.ask({"Tabrova for Windows",
+                                                  fromCodePage(words_.clearOnlyStaffQuestion),
+                                                  BoxIcon::Information,
+                                                  {BoxAnswer::Yes, BoxAnswer::No}});
+    return answer == BoxAnswer::Yes;
+}
 
 void frmMain::setCursorColor(QRgb color) {
     PageObjects& objects = editor_.page();

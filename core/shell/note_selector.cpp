@@ -23,12 +23,14 @@ void PrintAt(QPainter& surface, int x, int y, const QString& text) {
 
 } // namespace
 
-NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), shpNoteSelector_(ParkedPaletteHighlight) {
+NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedPaletteHighlight) {
     setObjectName("picNoteSelector");
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setMouseTracking(true);
     setFixedSize(PaletteWidth, PaletteHeight);
+    shpNoteSelector_ = new HighlightShape("shpNoteSelector", this);
+    moveHighlight(ParkedPaletteHighlight);
     auto* close = new QToolButton(this);
     close->setObjectName("Image1");
     close->setText(QStringLiteral("\u00D7"));
@@ -41,7 +43,7 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), shpNoteSelector_(P
 }
 
 void NoteSelector::openAt(const Rect& place) {
-    shpNoteSelector_ = ParkedPaletteHighlight;
+    moveHighlight(ParkedPaletteHighlight);
     move(place.left, place.top);
     show();
     raise();
@@ -49,9 +51,13 @@ void NoteSelector::openAt(const Rect& place) {
 }
 
 void NoteSelector::mouseMoveEvent(QMouseEvent* event) {
-    shpNoteSelector_ =
-        paletteHighlight(shpNoteSelector_, event->position().toPoint().x(), event->position().toPoint().y());
-    update();
+    const QPoint at = event->position().toPoint();
+    moveHighlight(paletteHighlight(highlight_, at.x(), at.y()));
+}
+
+void NoteSelector::moveHighlight(const Rect& place) {
+    highlight_ = place;
+    shpNoteSelector_->setGeometry(place.left, place.top, place.width, place.height);
 }
 
 // The palette keeps its mouse events: the page below it must not see them.
@@ -59,7 +65,7 @@ void NoteSelector::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void NoteSelector::mouseReleaseEvent(QMouseEvent*) {
     hide();
-    chosen(shpNoteSelector_);
+    chosen(highlight_);
 }
 
 void NoteSelector::mouseDoubleClickEvent(QMouseEvent* event) { event->accept(); }
@@ -81,9 +87,6 @@ void NoteSelector::paintEvent(QPaintEvent* event) {
     painter.setFont(small);
     painter.setPen(palette().color(QPalette::WindowText));
     DrawNoteSelector(painter);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(shpNoteSelector_.left, shpNoteSelector_.top, shpNoteSelector_.width,
-                     shpNoteSelector_.height);
 }
 
 } // namespace tabrova

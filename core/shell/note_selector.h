@@ -1,6 +1,7 @@
 // `picNoteSelector`, the fret palette: three rows of ten cells that a right click on the page opens.
 #pragma once
 
+#include "core/shell/highlight_shape.h"
 #include "tabview/surface.h"
 
 #include <QFrame>
@@ -33,8 +34,10 @@ class NoteSelector : public QFrame {
 
   private:
     void DrawNoteSelector(QPainter& surface) const;
+    void moveHighlight(const Rect& place);
 
-    Rect shpNoteSelector_;
+    Rect highlight_;
+    HighlightShape* shpNoteSelector_;
 };
 
 } // namespace tabrova

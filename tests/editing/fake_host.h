@@ -60,6 +60,10 @@ class FakeHost : public EditorHost {
         if (milliseconds) stopper = *milliseconds;
     }
     void unloadFileProperties() override { ++unloaded; }
+    bool confirmClearingOnlyStaff() override {
+        ++clearQuestions;
+        return allowClearing;
+    }
     bool debugMode() const override { return debug; }
     bool playing() const override { return false; }
 
@@ -74,7 +78,8 @@ class FakeHost : public EditorHost {
     Rect panelPlace, selectorPlace;
     int pageRefreshes = 0, redraws = 0, selectorsOpened = 0, focused = 0, unloaded = 0;
     int scrollMaximum = 0, scrollValue = 0, stopper = 0, stopperStarts = 0;
-    bool guitarButtons = false, debug = false;
+    int clearQuestions = 0;
+    bool guitarButtons = false, debug = false, allowClearing = false;
 
   private:
     // A long random walk would fill the memory; the last calls are all that a test asks about.

@@ -1,0 +1,79 @@
+// The editor's commands that change the shape of the grid.
+#include "core/document_operations.h"
+#include "editing/clipboard.h"
+#include "editing/editor.h"
+#include "editing/key_codes.h"
+
+namespace tabrova {
+
+void Editor::finishStructureEdit() {
+    refreshdrawing();
+    SetDebugLabel();
+}
+
+void Editor::clearCurrentStaff(const StaffClear& what) {
+    clearStaff(document_, what);
+    finishStructureEdit();
+}
+
+void Editor::mnuEditNewBarAfterCurrentBar() {
+    newStaffAfterCurrent(document_);
+    finishStructureEdit();
+}
+
+void Editor::mnuEditNewBarBeforeCurrent() {
+    newStaffBeforeCurrent(document_);
+    finishStructureEdit();
+}
+
+void Editor::mnuEditnewBarAtEndofDocument() {
+    AppendStaff();
+    finishStructureEdit();
+}
+
+void Editor::mnuDeleteBar() {
+    if (document_.StaffCount <= 1) {
+        if (!host_.confirmClearingOnlyStaff()) return;
+        ClearStaffallall(document_);
+        return finishStructureEdit();
+    }
+    deleteCurrentStaff(document_);
+    // The cursor comes back into the document by plain moves.
+    while (document_.CurrentStaff > document_.StaffCount)
+        picDocument_KeyDown(key::Left, 0);
+    finishStructureEdit();
+}
+
+// The bar mark of the new column goes as if the user removed it.
+void Editor::InsertColumnAllTracks() {
+    InsertColumn(document_, Rows::AllTracks);
+    picDocument_KeyDown(key::U, 0);
+    finishStructureEdit();
+}
+
+void Editor::InsertColumnOnTrack() {
+    InsertColumn(document_, Rows::CurrentTrack);
+    finishStructureEdit();
+}
+
+void Editor::RemoveColumnAllTracks() {
+    RemoveColumn(document_, Rows::AllTracks);
+    finishStructureEdit();
+}
+
+void Editor::RemoveColumnOnTrack() {
+    RemoveColumn(document_, Rows::CurrentTrack);
+    finishStructureEdit();
+}
+
+void Editor::SetNoteLength(int columns) {
+    tabrova::SetNoteLength(document_, columns);
+    refreshdrawing();
+}
+
+void Editor::pasteColumns(Rows rows) {
+    PasteProcedure(document_, rows);
+    finishStructureEdit();
+}
+
+} // namespace tabrova
