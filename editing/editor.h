@@ -97,9 +97,11 @@ class Editor {
     void runKey(int keyCode, int shift);
 
     void finishStructureEdit();
+    void pullPageIntoDocument();
 
     void placeCursorAt(int x, int y);
     void updateScrollRange();
+    int scrollMaximum() const;
     void keepCursorOnPage();
 
     Document& document_;

@@ -28,10 +28,14 @@ void Editor::refreshdrawing() {
     host_.setTitle("Tabrova - " + document_.Title + " by " + document_.Author);
 }
 
+int Editor::scrollMaximum() const {
+    return document_.VisibleStaves >= document_.StaffCount
+               ? 1
+               : document_.StaffCount - document_.VisibleStaves + 1;
+}
+
 void Editor::updateScrollRange() {
-    scroll_.maximum = document_.VisibleStaves >= document_.StaffCount
-                          ? 1
-                          : document_.StaffCount - document_.VisibleStaves + 1;
+    scroll_.maximum = scrollMaximum();
     host_.mirrorScrollBar(scroll_.maximum, std::min(scroll_.value, scroll_.maximum));
     // A range that shrinks below the thumb moves it, like any other change of its value.
     if (scroll_.value > scroll_.maximum) VScroll1_Change(scroll_.maximum);

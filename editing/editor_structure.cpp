@@ -38,10 +38,21 @@ void Editor::mnuDeleteBar() {
         return finishStructureEdit();
     }
     deleteCurrentStaff(document_);
+    pullPageIntoDocument();
     // The cursor comes back into the document by plain moves.
     while (document_.CurrentStaff > document_.StaffCount)
         picDocument_KeyDown(key::Left, 0);
     finishStructureEdit();
+}
+
+// A page that is scrolled further than the shorter document reaches slides back under the cursor, which stays
+// in its staff.
+void Editor::pullPageIntoDocument() {
+    const int staves = scroll_.value - scrollMaximum();
+    if (staves <= 0) return;
+    scroll_.value -= staves;
+    document_.TopStaff = static_cast<std::int16_t>(document_.TopStaff - staves);
+    page_.nCursor.top += staves * SlotHeight;
 }
 
 // The bar mark of the new column goes as if the user removed it.
