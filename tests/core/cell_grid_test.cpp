@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -255,6 +256,169 @@ TEST(CellGrid, AFilledCellMayBeEmptiedAgain) {
     grid.set(0, 0, 300);
     EXPECT_TRUE(grid.set(0, 0, EmptyText));
     EXPECT_EQ(grid.at(0, 0), EmptyText);
+}
+
+// Every cell its own id; columns of all three widths, and one without memory.
+constexpr TextId FirstIdOfColumn[] = {1, 250, 300, 65530, 70000, 0, 100};
+constexpr int WideColumns = 7, WideRows = 10, WithoutMemory = 5;
+
+TextId wideId(int column, int row) {
+    return column == WithoutMemory ? EmptyText : FirstIdOfColumn[column] + static_cast<TextId>(row);
+}
+
+void fillWide(CellGrid& grid) {
+    grid.resize(0, 0);
+    grid.resize(WideColumns, WideRows);
+    for (int column = 0; column < WideColumns; ++column)
+        for (int row = 0; row < WideRows; ++row)
+            grid.set(column, row, wideId(column, row));
+}
+
+// `source` gives for every column the one that stood there before, or -1 for "".
+template <class Source>
+void expectColumns(const CellGrid& grid, Source source) {
+    ASSERT_EQ(grid.columns(), WideColumns);
+    ASSERT_EQ(grid.rows(), WideRows);
+    for (int column = 0; column < WideColumns; ++column)
+        for (int row = 0; row < WideRows; ++row) {
+            const int from = source(column);
+            ASSERT_EQ(grid.at(column, row), from < 0 ? EmptyText : wideId(from, row))
+                << "column " << column << ", row " << row;
+        }
+}
+
+TEST(CellGrid, InsertedColumnsPushTheOthersUpToTheEnd) {
+    for (int end = 0; end <= WideColumns; ++end)
+        for (int at = 0; at <= WideColumns; ++at)
+            for (int count = 0; count <= WideColumns + 1; ++count) {
+                CellGrid grid;
+                fillWide(grid);
+                grid.insertColumns(at, count, end);
+                SCOPED_TRACE(::testing::Message() << count << " at " << at << " before " << end);
+                expectColumns(grid, [&](int column) {
+                    if (column < at || column >= end) return column;
+                    return column < at + count ? -1 : column - count;
+                });
+            }
+}
+
+TEST(CellGrid, RemovedColumnsPullTheOthersUpToTheEnd) {
+    for (int end = 0; end <= WideColumns; ++end)
+        for (int at = 0; at <= WideColumns; ++at)
+            for (int count = 0; count <= WideColumns + 1; ++count) {
+                CellGrid grid;
+                fillWide(grid);
+                grid.removeColumns(at, count, end);
+                SCOPED_TRACE(::testing::Message() << count << " at " << at << " before " << end);
+                expectColumns(grid, [&](int column) {
+                    if (column < at || column >= end) return column;
+                    return column + count < end ? column + count : -1;
+                });
+            }
+}
+
+TEST(CellGrid, MovedColumnsKeepTheirWidthAndNewOnesOwnNoMemory) {
+    CellGrid grid;
+    fillWide(grid);
+    grid.insertColumns(1, 2, WideColumns);
+    EXPECT_EQ(grid.column(1).data(), nullptr);
+    EXPECT_EQ(grid.column(2).data(), nullptr);
+    EXPECT_EQ(grid.column(3).width(), CellColumn::Width::Two);
+    EXPECT_EQ(grid.column(6).width(), CellColumn::Width::Four);
+    grid.removeColumns(0, 3, WideColumns);
+    EXPECT_EQ(grid.column(3).width(), CellColumn::Width::Four);
+    EXPECT_EQ(grid.column(4).data(), nullptr);
+    EXPECT_EQ(grid.column(6).data(), nullptr);
+}
+
+TEST(CellGrid, CellsAreCopiedBetweenColumnsOfEveryWidth) {
+    for (int from = 0; from < WideColumns; ++from)
+        for (int to = 0; to < WideColumns; ++to)
+            for (const auto& [first, count] : {std::pair{0, WideRows}, {0, 3}, {4, 3}, {9, 1}, {7, 50}}) {
+                CellGrid grid;
+                fillWide(grid);
+                grid.copyCells(grid, from, to, first, count);
+                for (int column = 0; column < WideColumns; ++column)
+                    for (int row = 0; row < WideRows; ++row) {
+                        const bool taken = column == to && row >= first && row < first + count;
+                        ASSERT_EQ(grid.at(column, row), wideId(taken ? from : column, row))
+                            << from << " to " << to;
+                    }
+            }
+}
+
+TEST(CellGrid, CopiesOutsideTheGridsChangeNothing) {
+    CellGrid grid, source;
+    fillWide(grid);
+    source.resize(2, 40);
+    source.set(1, 39, 8);
+    for (const auto& [from, to] : {std::pair{-1, 0}, {2, 0}, {1, -1}, {1, WideColumns}, {99, 99}})
+        grid.copyCells(source, from, to, 0, WideRows);
+    grid.copyCells(source, 1, 0, WideRows, 30);
+    grid.copyCells(source, 1, 0, 3, 0);
+    grid.copyCells(source, 1, 0, 3, -2);
+    expectColumns(grid, [](int column) { return column; });
+    grid.copyCells(source, 1, 0, 0, 40);
+    expectColumns(grid, [](int column) { return column == 0 ? -1 : column; });
+}
+
+TEST(CellGrid, RowsThatTheSourceDoesNotHaveStay) {
+    CellGrid grid, low;
+    fillWide(grid);
+    low.resize(1, 4);
+    low.set(0, 1, 9);
+    grid.copyCells(low, 0, 3, 0, WideRows);
+    for (int row = 0; row < WideRows; ++row)
+        EXPECT_EQ(grid.at(3, row), row == 1 ? 9u : row < 4 ? EmptyText : wideId(3, row));
+}
+
+TEST(CellGrid, RandomMovesAgreeWithListsOfCells) {
+    std::mt19937 random(9);
+    const auto choose = [&random](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    constexpr int Columns = 24, Rows = 18;
+    CellGrid grid;
+    grid.resize(Columns, Rows);
+    std::vector<std::vector<TextId>> model(Columns, std::vector<TextId>(Rows));
+    for (int step = 0; step < 20000; ++step) {
+        const int at = choose(Columns), end = choose(Columns), row = choose(Rows - 1);
+        const int most = end > at ? end - at : 0, count = choose(std::min(most, 6));
+        const auto first = model.begin() + at;
+        switch (choose(9)) {
+        case 0:
+            grid.insertColumns(at, count, end);
+            if (count == 0) break;
+            std::move_backward(first, first + (most - count), first + most);
+            std::fill(first, first + count, std::vector<TextId>(Rows));
+            break;
+        case 1:
+            grid.removeColumns(at, count, end);
+            if (count == 0) break;
+            std::move(first + count, first + most, first);
+            std::fill(first + (most - count), first + most, std::vector<TextId>(Rows));
+            break;
+        case 2:
+        case 3: {
+            const int rows = choose(Rows);
+            grid.copyCells(grid, at, end, row, rows);
+            if (at == Columns || end == Columns) break;
+            for (int each = row; each < std::min(Rows, row + rows); ++each)
+                model[static_cast<std::size_t>(end)][static_cast<std::size_t>(each)] =
+                    model[static_cast<std::size_t>(at)][static_cast<std::size_t>(each)];
+            break;
+        }
+        default: {
+            const int ranges[] = {0, 255, 65535, 200000};
+            const auto id = static_cast<TextId>(choose(ranges[choose(3)]));
+            if (grid.set(at, row, id))
+                model[static_cast<std::size_t>(at)][static_cast<std::size_t>(row)] = id;
+        }
+        }
+        for (int column = 0; column < Columns; ++column)
+            for (int each = 0; each < Rows; ++each)
+                ASSERT_EQ(grid.at(column, each),
+                          model[static_cast<std::size_t>(column)][static_cast<std::size_t>(each)])
+                    << "after step " << step;
+    }
 }
 
 } // namespace
