@@ -50,6 +50,14 @@ void CellGrid::removeColumns(int at, int count, int end) {
     std::for_each(last - count, last, [](CellColumn& column) { column.reset(); });
 }
 
+void CellGrid::insertCells(int at, int end, int firstRow, int rowCount) {
+    if (at >= end) return;
+    CellColumn* const columns = columns_.data();
+    for (int column = end - 1; column > at; --column)
+        columns[column].copyRows(columns[column - 1], firstRow, rowCount, rows_);
+    columns[at].clear(firstRow, rowCount);
+}
+
 void CellGrid::copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount) {
     if (from < 0 || from >= source.columns() || to < 0 || to >= columns()) return;
     const int rowEnd = std::min({firstRow + rowCount, rows_, source.rows_});

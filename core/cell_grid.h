@@ -39,6 +39,9 @@ class CellGrid {
     // Columns `at` + `count` to `end` - 1 move `count` to the left; the last `count` columns before `end`
     // become "".
     void removeColumns(int at, int count, int end);
+    // The same for the rows firstRow to firstRow + rowCount - 1 alone, one column to the right. The rows must
+    // lie in the grid.
+    void insertCells(int at, int end, int firstRow, int rowCount);
     // The rows firstRow to firstRow + rowCount - 1 of column `to` take the cells of column `from` of
     // `source`. Outside the grids nothing is changed.
     void copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount);

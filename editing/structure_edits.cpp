@@ -69,9 +69,7 @@ RowRange rowsOf(const Document& document, Rows rows) {
 void makeRoomForColumn(CellGrid& grid, int at, int end, RowRange rows) {
     end = std::min(end, grid.columns());
     if (rows.first == 0 && rows.count == grid.rows()) return grid.insertColumns(at, 1, end);
-    for (int column = end - 1; column > at; --column)
-        grid.copyCells(grid, column - 1, column, rows.first, rows.count);
-    grid.clear(at, 1, rows.first, rows.count);
+    grid.insertCells(at, end, rows.first, rows.count);
 }
 
 void clearStaff(Document& document, const StaffClear& what) {

@@ -9,16 +9,18 @@ passed=0
 failed=0
 
 cleanup() {
+    trap '' HUP INT TERM # `timeout` tells twice
     # The last started ends first: a program before the server that shows it.
     local number process
     for ((number = ${#processes[@]} - 1; number >= 0; --number)); do
         process="${processes[number]}"
         kill "$process" 2>/dev/null || continue
-        for _ in $(seq 30); do kill -0 "$process" 2>/dev/null || break; sleep 0.1; done
+        for _ in $(seq 100); do kill -0 "$process" 2>/dev/null || break; sleep 0.1; done
         kill -KILL "$process" 2>/dev/null || true
     done
     wait 2>/dev/null || true
-    rm -rf "$work"
+    # The second is what a MIDI server leaves that had to be killed.
+    rm -rf "$work" /dev/shm/jack*tabrova-$$_*
 }
 trap cleanup EXIT
 trap 'exit 1' HUP INT TERM

@@ -254,6 +254,21 @@ TEST_F(Clipboard, AddsNoStaffWhereTheCopyJustFits) {
     EXPECT_EQ(document.note(24, 0), "5");
 }
 
+TEST_F(Clipboard, PushesANoteAtTheCursorInTheLastColumnToANewStaff) {
+    for (const Rows rows : {Rows::AllTracks, Rows::CurrentTrack}) {
+        makeDocument(document, 2, 1);
+        document.setNote(0, 6, "5");
+        copyColumns(document, 1);
+        place(1, 31, 2);
+        document.setNote(31, 7, "9");
+        PasteProcedure(document, rows);
+        expectStaves(2);
+        EXPECT_EQ(document.note(31, 6), "5");
+        EXPECT_EQ(document.note(31, 7), "");
+        EXPECT_EQ(document.note(32, 7), "9");
+    }
+}
+
 // A staff comes as soon as a note stands in the last column before another single move, and the next pass
 // uses it.
 TEST_F(Clipboard, PastedColumnsPushNoNoteOffTheEnd) {
