@@ -1,6 +1,6 @@
 // From a key press on the page to the first sample of its note at the recorder: the real window, the built-in
 // synthesizer, the server that scripts/with_sound_server starts. The recorder's own delay is part of the
-// figure. The yardstick is one period of the audio output, 1024 frames at 48 kHz.
+// figure. The yardstick is one period of the audio output, 512 frames at 48 kHz.
 #include "core/shell/frmMain.h"
 #include "sound/devices/system_midi_device.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr int Threshold = 64; // of 32768
-constexpr double PeriodSeconds = 1024.0 / 48000.0;
+constexpr double PeriodSeconds = 512.0 / 48000.0;
 
 struct Program {
     DesktopMessageBoxes boxes;

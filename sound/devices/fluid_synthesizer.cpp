@@ -24,8 +24,8 @@ struct AudioOutput {
     int periodSize; // frames
     int periods;
 };
-constexpr std::array Outputs = {AudioOutput{"pulseaudio", "PulseAudio", 256, 2},
-                                AudioOutput{"pipewire", "PipeWire", 256, 2},
+constexpr std::array Outputs = {AudioOutput{"pulseaudio", "PulseAudio", 512, 2},
+                                AudioOutput{"pipewire", "PipeWire", 512, 2},
                                 AudioOutput{"jack", "JACK", 256, 2},
                                 AudioOutput{"alsa", "ALSA", 256, 3},
                                 AudioOutput{"coreaudio", "CoreAudio", 256, 2},
