@@ -79,7 +79,7 @@ void Editor::StoreTechnique(int code) {
 void Editor::chooseFromPalette(const Rect& highlight) {
     picDocument_KeyDown(key::Delete, 0);
     const auto fret = paletteFret(highlight);
-    if (!fret) return;
+    if (!fret || !document_.isGuitarTrack(document_.CurrentTrack)) return;
     if (*fret >= 10)
         document_.setNote(document_.CurrentColumn, document_.cursorRow(), std::to_string(*fret / 10));
     picDocument_KeyDown(key::Digit0 + *fret % 10, 0);

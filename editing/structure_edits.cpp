@@ -25,6 +25,7 @@ void clearMarks(Document& document, int first, int count) {
 // Marks `at` to `end` - `count` - 1 move to the right; the ones at `at` stay as they are.
 void moveMarksRight(Document& document, int at, int count, int end) {
     auto& marks = document.BarMarkRow;
+    end = std::min(end, static_cast<int>(marks.size()));
     if (at + count >= end) return;
     std::move_backward(marks.begin() + at, marks.begin() + end - count, marks.begin() + end);
 }
@@ -135,6 +136,23 @@ void RemoveColumnAfterCursor(Document& document) {
     moveMarksLeft(document, at, 1);
 }
 
+namespace {
+
+// So many removals at once: every column takes the one that far behind it, or the last one.
+void removeColumnsAfterCursor(Document& document, int count) {
+    const RowRange rows = rowsOf(document, Rows::CurrentTrack);
+    const int last = document.lastColumn();
+    for (int column = document.CurrentColumn + 1; column < last; ++column) {
+        const int from = std::min(column + count, last);
+        document.NoteGrid.copyCells(document.NoteGrid, from, column, rows.first, rows.count);
+        document.TechniqueGrid.copyCells(document.TechniqueGrid, from, column, rows.first, rows.count);
+        document.BarMarkRow[static_cast<std::size_t>(column)] =
+            document.BarMarkRow[static_cast<std::size_t>(from)];
+    }
+}
+
+} // namespace
+
 std::optional<int> noteLength(const Document& document) {
     const RowRange rows = rowsOf(document, Rows::CurrentTrack);
     for (int columns = 1; columns < document.StaffCount * ColumnsPerStaff; ++columns)
@@ -146,8 +164,7 @@ void SetNoteLength(Document& document, int columns) {
     GetCurrentXPosition(document);
     const auto present = noteLength(document);
     if (!present) return;
-    for (int length = *present; length > columns; --length)
-        RemoveColumnAfterCursor(document);
+    if (*present > columns) removeColumnsAfterCursor(document, *present - columns);
     for (int length = *present; length < columns; ++length)
         InsertColumnAfterCursor(document);
     GetCurrentXPosition(document);

@@ -28,8 +28,10 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
     const int before = currentRow();
+    const bool nothingChosen = selectedItems().isEmpty();
     QListWidget::keyPressEvent(event);
-    if (currentRow() != before) raiseClick();
+    const bool chosenNow = nothingChosen && !selectedItems().isEmpty();
+    if (currentRow() != before || chosenNow) raiseClick();
 }
 
 } // namespace tabrova

@@ -93,7 +93,8 @@ void frmMain::ReportMidiError(int code) {
 }
 
 void frmMain::ToggleMenus(bool enabled) {
-    page_->setEnabled(enabled);
+    page_->setEnabled(false);
+    if (enabled) enablePage();
     fretboard_->setEnabled(enabled);
     VScroll1_->setEnabled(enabled);
     for (const char* name : {"mnuFile", "mnuEdit", "mnuView", "mnuStaff", "mnuNote", "mnuTrack", "mnuTools",

@@ -107,6 +107,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void mnuViewNotation();
     void Form_Resize();
     void placePanels();
+    void enablePage();
     void closePanel(QWidget& panel);
     void closeBendPanel(int code);
     void closeRepeatPanel(int value);

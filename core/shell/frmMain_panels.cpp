@@ -169,7 +169,15 @@ void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(fromCo
 
 void frmMain::setTrackPanel(const std::string& text) { statusBar_->setTrackPanel(fromCodePage(text)); }
 
-void frmMain::UpdateTechniqueButtons(bool guitarTrack) { toolbar_->UpdateTechniqueButtons(guitarTrack); }
+void frmMain::UpdateTechniqueButtons(bool guitarTrack) {
+    // During playback all of them stay off.
+    if (!playing()) toolbar_->UpdateTechniqueButtons(guitarTrack);
+}
+
+// The page is held closed by playback and by an open panel.
+void frmMain::enablePage() {
+    page_->setEnabled(!playing() && bendPanel_->isHidden() && repeatPanel_->isHidden());
+}
 
 Rect frmMain::pageGeometry() const { return layout_.picDocument; }
 
@@ -180,6 +188,9 @@ Rect frmMain::panelGeometry(Panel panel) const {
 
 void frmMain::openPanel(Panel panel, const Rect& place) {
     QWidget* widget = panel == Panel::Bend ? static_cast<QWidget*>(bendPanel_) : repeatPanel_;
+    // One panel at a time: it has no way out but Enter.
+    bendPanel_->hide();
+    repeatPanel_->hide();
     widget->move(place.left, place.top);
     widget->show();
     widget->raise();
@@ -203,16 +214,18 @@ void frmMain::closePanel(QWidget& panel) {
 }
 
 void frmMain::closeBendPanel(int code) {
+    if (playing()) return;
     bendPanel_->hide();
-    page_->setEnabled(true);
+    enablePage();
     editor_.StoreTechnique(code);
     focusPage();
     editor_.refreshdrawing();
 }
 
 void frmMain::closeRepeatPanel(int value) {
-    page_->setEnabled(true);
+    if (playing()) return;
     repeatPanel_->hide();
+    enablePage();
     editor_.DrawAndStoreNote(code::ClosedRepeatBase + value);
     focusPage();
     refreshPage();

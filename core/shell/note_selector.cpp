@@ -63,7 +63,9 @@ void NoteSelector::moveHighlight(const Rect& place) {
 // The palette keeps its mouse events: the page below it must not see them.
 void NoteSelector::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
-void NoteSelector::mouseReleaseEvent(QMouseEvent*) {
+// A press that is drawn out of the palette is no click.
+void NoteSelector::mouseReleaseEvent(QMouseEvent* event) {
+    if (!rect().contains(event->position().toPoint())) return;
     hide();
     chosen(highlight_);
 }
