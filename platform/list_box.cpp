@@ -1,11 +1,16 @@
 #include "platform/list_box.h"
 
+#include <QKeyEvent>
+
 namespace tabrova {
 
 ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
     setObjectName(name);
     setUniformItemSizes(true);
     QObject::connect(this, &QListWidget::itemClicked, this, [this] { raiseClick(); });
+    QObject::connect(this, &QListWidget::itemDoubleClicked, this, [this] {
+        if (DoubleClick) DoubleClick();
+    });
 }
 
 void ListBox::raiseClick() {
@@ -27,6 +32,11 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
+    const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (entered && DoubleClick) {
+        if (currentItem()) DoubleClick();
+        return;
+    }
     const int before = currentRow();
     const bool nothingChosen = selectedItems().isEmpty();
     QListWidget::keyPressEvent(event);

@@ -13,6 +13,8 @@ class ListBox : public QListWidget {
     ListBox(const QString& name, QWidget* parent);
 
     std::function<void()> Click;
+    // A double click on a row, or Return on the chosen one.
+    std::function<void()> DoubleClick;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -1,8 +1,8 @@
 #include "core/shell/frmMain.h"
 
 #include "core/document_operations.h"
-#include "core/shell/code_page_text.h"
 #include "core/shell/frmAbout.h"
+#include "forms/code_page_text.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -21,7 +21,7 @@ frmMain::frmMain(Services& services)
       editor_({document_, view_, sound_, *this, words_}),
       commands_(document_, editor_, services, words_,
                 {[this](const QString& name) { return menu_->action(name)->isEnabled(); },
-                 [this](const std::string& text) { setTrackPanel(text); },
+                 [this](const std::string& text) { setTrackPanel(text); }, [this] { tracksReplaced(); },
                  [this] { showFrmFileProperties(); }}) {
     setObjectName("frmMain");
     setWindowTitle("Tabrova - untitled.tr3");
@@ -30,7 +30,10 @@ frmMain::frmMain(Services& services)
     connectPanels();
     connectPage();
     connectMenus();
+    connectTracks();
     makeTimers();
+    loadInstruments();
+    showBuiltInLanguage();
     client_->installEventFilter(this);
 }
 
@@ -45,6 +48,7 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     editor_.MakeNewDocument();
     document_.Tempo = DefaultTempo;
     document_.TuningTable.assign(StringsPerTrack, StandardTuning);
+    instruments_->showProgram(StartProgram);
     loaded_ = true;
     menu_->action("mnuViewNotation")->trigger();
     // Only now the staves that the page shows are known, and with them its height.
@@ -59,25 +63,20 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     focusPage();
 }
 
-// The lines of the active language replace the built-in captions and words, when there is a reader for them.
-void frmMain::LoadLanguage() {}
-
 // The options open the device that the user has chosen, and stay loaded.
 void frmMain::loadFrmOptions() {
     options_ = new frmOptions(services_, *this, this);
     options_->Form_Load();
 }
 
-void frmMain::showOptions() {
+void frmMain::showOptions(OptionsTab tab) {
+    options_->showTab(tab);
     options_->show();
     options_->raise();
     options_->activateWindow();
 }
 
 void frmMain::showFrmHelp() { menu_->action("mnuHelpContents")->trigger(); }
-
-// The document's properties, when there is a window for them; its closing redraws.
-void frmMain::showFrmFileProperties() { editor_.refreshdrawing(); }
 
 // The list of drums, when there is a window for it, on a percussion track.
 void frmMain::showFrmPercussion() {}
@@ -101,6 +100,7 @@ void frmMain::ToggleMenus(bool enabled) {
                              "mnuHelp", "mnuSoundPlayAll", "mnuPlayFromHere"})
         menu_->setEnabled(name, enabled);
     statusBar_->setEnabled(enabled);
+    trackChooser_->setEnabled(enabled);
     toolbar_->setAllButStopEnabled(enabled);
     if (!enabled) return;
     focusPage();
@@ -148,6 +148,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
     StopTimer();
     sound_.AllNotesOff();
     splash_.clear();
+    unloadFileProperties();
+    delete trackProperties_;
+    delete instruments_;
+    instruments_ = nullptr;
     delete options_;
     options_ = nullptr;
     sound_.CloseMidiDevice();
@@ -162,7 +166,7 @@ void frmMain::showAbout() {
 }
 
 void frmMain::showSplash() {
-    splash_ = new frmAltSplash(this);
+    splash_ = new frmAltSplash(services_.programFolder, this);
     splash_->setAttribute(Qt::WA_DeleteOnClose);
     splash_->chosen = [this](SplashChoice choice) { runSplashChoice(choice); };
     splash_->show();
