@@ -1,6 +1,7 @@
 #include "platform/list_box.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace tabrova {
 
@@ -8,9 +9,6 @@ ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
     setObjectName(name);
     setUniformItemSizes(true);
     QObject::connect(this, &QListWidget::itemClicked, this, [this] { raiseClick(); });
-    QObject::connect(this, &QListWidget::itemDoubleClicked, this, [this] {
-        if (DoubleClick) DoubleClick();
-    });
 }
 
 void ListBox::raiseClick() {
@@ -31,10 +29,19 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
     rowAtPress_ = currentRow();
 }
 
+// The toolkit's own signal comes only after a press on the same row.
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    QListWidget::mouseDoubleClickEvent(event);
+    QListWidgetItem* item = itemAt(event->position().toPoint());
+    if (!item || event->button() != Qt::LeftButton) return;
+    setCurrentItem(item);
+    if (DoubleClick) DoubleClick();
+}
+
 void ListBox::keyPressEvent(QKeyEvent* event) {
     const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (entered && DoubleClick) {
-        if (currentItem()) DoubleClick();
+        if (chosenRow() >= 0) DoubleClick();
         return;
     }
     const int before = currentRow();

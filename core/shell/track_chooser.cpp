@@ -14,7 +14,7 @@ TrackChooser::TrackChooser(QWidget* parent) : QFrame(parent) {
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     TrackNames_ = new ListBox("TrackNames", this);
-    TrackNames_->Click = [this] { chosen(TrackNames_->currentRow()); };
+    TrackNames_->Click = [this] { chosen(TrackNames_->chosenRow()); };
     auto* AddTrack = named(new QPushButton(this), "AddTrack");
     auto* Command1 = named(new QPushButton(this), "Command1");
     auto* buttons = new QHBoxLayout;

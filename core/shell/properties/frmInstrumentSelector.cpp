@@ -78,7 +78,7 @@ QString frmInstrumentSelector::instrumentName(int program) const {
 }
 
 void frmInstrumentSelector::lst_Instrument_Click() {
-    const int program = lst_Instrument_->currentRow();
+    const int program = lst_Instrument_->chosenRow();
     if (program < 0) return;
     Document& document = host_.document();
     setCurrentTrackRow(document, document.TrackInstruments, std::to_string(program));
@@ -97,7 +97,7 @@ void frmInstrumentSelector::sample() {
 
 // A track whose program the list does not have takes the first one.
 void frmInstrumentSelector::accept() {
-    if (lst_Instrument_->currentRow() < 0 && lst_Instrument_->count() > 0) {
+    if (lst_Instrument_->chosenRow() < 0 && lst_Instrument_->count() > 0) {
         lst_Instrument_->setCurrentRow(0);
         lst_Instrument_Click();
     }
