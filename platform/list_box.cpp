@@ -32,10 +32,9 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 // The toolkit's own signal comes only after a press on the same row.
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
     QListWidget::mouseDoubleClickEvent(event);
-    QListWidgetItem* item = itemAt(event->position().toPoint());
-    if (!item || event->button() != Qt::LeftButton) return;
-    setCurrentItem(item);
-    if (DoubleClick) DoubleClick();
+    if (event->button() != Qt::LeftButton) return;
+    if (QListWidgetItem* item = itemAt(event->position().toPoint())) setCurrentItem(item);
+    if (chosenRow() >= 0 && DoubleClick) DoubleClick();
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {

@@ -16,7 +16,7 @@ class ListBox : public QListWidget {
     int chosenRow() const { return selectedItems().isEmpty() ? -1 : currentRow(); }
 
     std::function<void()> Click;
-    // A double click on a row, or Return on the chosen one.
+    // A double click, or Return, with a row chosen. A double click below the rows counts for the chosen one.
     std::function<void()> DoubleClick;
 
   protected:

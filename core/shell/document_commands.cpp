@@ -46,6 +46,8 @@ bool DocumentCommands::askForName(FileQuestion::Kind kind) {
 void DocumentCommands::mnuFileNew() {
     if (!confirmLeaving()) return;
     editor_.MakeNewDocument();
+    editor_.refreshdrawing();
+    editor_.SetDebugLabel();
     host_.showFrmFileProperties();
 }
 

@@ -178,6 +178,7 @@ void frmMain::runSplashChoice(SplashChoice choice) {
     switch (choice) {
     case SplashChoice::NewTablature:
         editor_.MakeNewDocument();
+        editor_.refreshdrawing();
         showFrmFileProperties();
         break;
     case SplashChoice::OpenTablature:

@@ -61,7 +61,7 @@ TEST_F(Languages, AreAppliedByADoubleClick) {
     drive->ok("dblclick frmOptions.lstLanguages 20 8"); // the first row
     EXPECT_EQ(contents("lang.trl"), contents("languages/English/lang.trl"));
     drive->ok("set frmOptions.lstLanguages =German");
-    drive->ok("dblclick frmOptions.lstLanguages 20 24");
+    drive->ok("dblclick frmOptions.lstLanguages 20 25");
     EXPECT_EQ(text("mnuFile"), "&Datei");
 }
 
