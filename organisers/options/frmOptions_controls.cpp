@@ -119,6 +119,8 @@ QWidget* frmOptions::buildCursorBox() {
     for (const CursorColorRow& row : CursorColors)
         lstColors_->addItem(new QListWidgetItem(swatch(cursorColor(row, highlight)), row.name));
     lstColors_->setIconSize({Swatch, Swatch});
+    constexpr int RowMargins = 12;
+    lstColors_->setMinimumWidth(lstColors_->sizeHintForColumn(0) + 2 * lstColors_->frameWidth() + RowMargins);
     lstColors_->setFixedHeight(static_cast<int>(CursorColors.size()) * lstColors_->sizeHintForRow(0) +
                                2 * lstColors_->frameWidth());
     chkEyeBall_ = named(new QCheckBox(box), "chkEyeBall");
