@@ -37,7 +37,8 @@ void finishNewTrack(Document& document, bool guitar) {
     const auto strings = std::min<std::ptrdiff_t>(StringsPerTrack, std::ssize(document.TuningTable));
     std::fill_n(document.TuningTable.rbegin(), strings, StandardTuning);
     ++document.TrackCount;
-    document.GuitarTrackFlags.resize(static_cast<std::size_t>(document.TrackCount), False16);
+    const auto tracks = static_cast<std::size_t>(std::max<int>(document.TrackCount, 0));
+    document.GuitarTrackFlags.resize(std::max(tracks, document.GuitarTrackFlags.size()), False16);
     const auto flag = static_cast<std::size_t>(document.CurrentTrack - 1);
     if (flag < document.GuitarTrackFlags.size()) document.GuitarTrackFlags[flag] = boolean16(guitar);
 }
@@ -49,7 +50,10 @@ void removeCurrentTrack(Document& document) {
     for (auto* list : {&document.TrackNames, &document.TrackInstruments, &document.TrackVolumes})
         eraseRows(*list, row, 1);
     eraseRows(document.GuitarTrackFlags, row, 1);
-    eraseRows(document.TuningTable, firstString, StringsPerTrack);
+    // The table keeps its length until the grids shrink.
+    if (firstString + StringsPerTrack < std::ssize(document.TuningTable))
+        std::move(document.TuningTable.begin() + firstString + StringsPerTrack, document.TuningTable.end(),
+                  document.TuningTable.begin() + firstString);
     document.NoteGrid.removeRows(firstString, StringsPerTrack);
     document.TechniqueGrid.removeRows(firstString, StringsPerTrack);
     --document.TrackCount;

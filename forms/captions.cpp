@@ -3,6 +3,7 @@
 #include "core/language/language_lines.h"
 #include "core/language/text_lines.h"
 #include "forms/control_names.h"
+#include "forms/text_edges.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,6 +18,8 @@ namespace tabrova {
 
 namespace {
 
+constexpr qsizetype LongestText = 250; // characters
+
 // The form's controls by name, in lower case.
 class FormControls {
   public:
@@ -28,7 +31,7 @@ class FormControls {
     void show(const LanguageLine& line, const QString& text, const MessageSink& message) const {
         switch (line.use) {
         case LineUse::Title:
-            form_.setWindowTitle(text);
+            setTitleOf(form_, text);
             break;
         case LineUse::Caption:
             setCaption(line.target, text);
@@ -77,14 +80,6 @@ class FormControls {
     QHash<QString, QObject*> controls_;
 };
 
-} // namespace
-
-void showBuiltInCaptions(QWidget& form, const MessageSink& message) {
-    const FormControls controls(form);
-    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString()))
-        controls.show(line, QString::fromUtf8(line.text), message);
-}
-
 void readLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {
     const auto last = static_cast<std::size_t>(lastLanguageLine());
     const std::vector<std::string> texts = readTextLines(activeLanguageFile(programFolder), last);
@@ -92,8 +87,16 @@ void readLanguage(QWidget& form, const std::filesystem::path& programFolder, con
     for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString())) {
         const auto index = static_cast<std::size_t>(line.number - 1);
         if (index >= texts.size()) break;
-        controls.show(line, QString::fromStdString(texts[index]), message);
+        controls.show(line, QString::fromStdString(texts[index]).left(LongestText), message);
     }
+}
+
+} // namespace
+
+void showBuiltInCaptions(QWidget& form, const MessageSink& message) {
+    const FormControls controls(form);
+    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString()))
+        controls.show(line, QString::fromUtf8(line.text), message);
 }
 
 void loadLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {

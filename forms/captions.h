@@ -17,11 +17,8 @@ using MessageSink = std::function<void(std::string_view name, const QString& tex
 // The built-in texts; the form goes by its object name. The controls must be there already.
 void showBuiltInCaptions(QWidget& form, const MessageSink& message = {});
 
-// The active language file's texts, line by line as far as the file goes: what lies behind its end, or what a
-// missing file would give, stays as it is.
-void readLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message = {});
-
-// Both: what a form does first when it loads.
+// The built-in texts and then the active language file's, line by line as far as the file goes: what a form
+// does first when it loads. Texts that are longer than any caption can be are cut.
 void loadLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message = {});
 
 std::filesystem::path activeLanguageFile(const std::filesystem::path& programFolder);

@@ -22,7 +22,11 @@ std::string toCodePage(const QString& text) {
     return bytes;
 }
 
+// A line of a file cannot hold line ends; other control characters would not be seen.
 QValidator::State CodePageValidator::validate(QString& text, int&) const {
+    text.replace("\r\n", "  ");
+    for (QChar& character : text)
+        if (character.unicode() < ' ' || character.unicode() == 0x7F) character = ' ';
     for (const char32_t character : text.toUcs4())
         if (!byteOf(character)) return Invalid;
     return Acceptable;

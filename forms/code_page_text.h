@@ -17,7 +17,7 @@ QString fromCodePage(const std::string& bytes);
 // that.
 std::string toCodePage(const QString& text);
 
-// Lets only characters of the code page into a text box.
+// Lets only characters of the code page into a text box; control characters become blanks.
 class CodePageValidator : public QValidator {
   public:
     using QValidator::QValidator;

@@ -16,7 +16,13 @@ void ListBox::raiseClick() {
     if (Click) Click();
 }
 
+QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
+                                                              const QEvent* event) const {
+    return index.isValid() ? QListWidget::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
+}
+
 void ListBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->accept();
     rowAtPress_ = currentRow();
     raised_ = false;
     QListWidget::mousePressEvent(event);
@@ -24,6 +30,7 @@ void ListBox::mousePressEvent(QMouseEvent* event) {
 
 // A drag from row to row chooses the last one without a click of the toolkit's own.
 void ListBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->accept();
     QListWidget::mouseReleaseEvent(event);
     if (!raised_ && currentRow() != rowAtPress_) raiseClick();
     rowAtPress_ = currentRow();
@@ -31,8 +38,8 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 
 // The toolkit's own signal comes only after a press on the same row.
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->accept();
     QListWidget::mouseDoubleClickEvent(event);
-    if (event->button() != Qt::LeftButton) return;
     if (QListWidgetItem* item = itemAt(event->position().toPoint())) setCurrentItem(item);
     if (chosenRow() >= 0 && DoubleClick) DoubleClick();
 }

@@ -20,6 +20,9 @@ class ListBox : public QListWidget {
     std::function<void()> DoubleClick;
 
   protected:
+    // A click beside the rows changes nothing, and neither do other buttons than the left one.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -1,6 +1,7 @@
 #include "app/drive/control_values.h"
 
 #include "core/shell/status_bar.h"
+#include "forms/text_edges.h"
 #include "platform/window_timer.h"
 
 #include <QAbstractButton>
@@ -69,7 +70,7 @@ std::optional<QString> textOf(QObject* control) {
     if (auto* button = as<QAbstractButton>(control)) return button->text();
     if (auto* action = as<QAction>(control)) return action->text();
     if (auto* bar = dynamic_cast<StatusBar*>(control)) return bar->trackPanel();
-    if (auto* widget = as<QWidget>(control); widget && widget->isWindow()) return widget->windowTitle();
+    if (auto* widget = as<QWidget>(control); widget && widget->isWindow()) return titleOf(*widget);
     return std::nullopt;
 }
 
@@ -163,7 +164,7 @@ std::optional<QJsonValue> controlProperty(QObject* control, const QString& prope
     };
     if (property == "text" || property == "caption") return optional(textOf(control));
     if (property == "title")
-        return widget ? std::optional<QJsonValue>(widget->window()->windowTitle()) : std::nullopt;
+        return widget ? std::optional<QJsonValue>(titleOf(*widget->window())) : std::nullopt;
     if (property == "items") return QJsonValue(QJsonArray::fromStringList(itemsOf(control)));
     if (property == "row") return optional(rowOf(control));
     if (property == "enabled") return QJsonValue(isEnabled(control));

@@ -128,6 +128,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     void mnuChoose();
     void mnuTrackProps();
     void TrackNames_Click(int row);
+    void hideTrackChooser();
     std::string currentTrackName() const; // UTF-8
     frmFileProperties& loadFrmFileProperties();
     void makeTimers();

@@ -3,6 +3,7 @@
 #include "core/language/text_lines.h"
 #include "core/shell/frmMain.h"
 #include "forms/captions.h"
+#include "forms/text_edges.h"
 
 namespace tabrova {
 
@@ -23,11 +24,11 @@ MessageSink frmMain::messageSink() {
 
 void frmMain::showBuiltInLanguage() { showBuiltInCaptions(*this, messageSink()); }
 
-void frmMain::LoadLanguage() { readLanguage(*this, services_.programFolder, messageSink()); }
+void frmMain::LoadLanguage() { loadLanguage(*this, services_.programFolder, messageSink()); }
 
 void frmMain::ApplyLanguagePatch(const QString& name) {
     if (!isEntryName(name.toStdU16String())) return;
-    const auto file = installedLanguages(services_.programFolder) / name.toStdU16String();
+    const auto file = installedLanguages(services_.programFolder) / pathOf(name);
     const std::vector<std::string> lines = readTextLines(file, 1);
     if (!lines.empty()) menu_->action("mnuFile")->setText(QString::fromStdString(lines.front()));
 }

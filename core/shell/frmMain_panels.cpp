@@ -5,6 +5,7 @@
 #include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
 #include "forms/code_page_text.h"
+#include "forms/text_edges.h"
 
 #include <QPainter>
 #include <QPushButton>
@@ -157,7 +158,7 @@ void frmMain::mirrorScrollBar(int maximum, int value) {
     VScroll1_->setValue(value);
 }
 
-void frmMain::setTitle(const std::string& title) { setWindowTitle(fromCodePage(title)); }
+void frmMain::setTitle(const std::string& title) { setTitleOf(*this, fromCodePage(title)); }
 
 void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(QString::fromStdString(text)); }
 

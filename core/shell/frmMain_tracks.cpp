@@ -74,6 +74,7 @@ void frmMain::mnuKillTrack() {
 
 void frmMain::mnuChoose() {
     placePanels();
+    trackChooser_->showSelected(document_.CurrentTrack - 1);
     trackChooser_->open();
 }
 
@@ -93,10 +94,7 @@ void frmMain::TrackNames_Click(int row) {
     const auto program = trackProgram(document_, document_.CurrentTrack);
     instruments_->showProgram(program);
     if (program) sound_.ProgramChange(GuitarChannel, *program);
-    if (trackChooser_->isVisible()) {
-        trackChooser_->hide();
-        focusPage();
-    }
+    hideTrackChooser();
     editor_.refreshdrawing();
     editor_.SetDebugLabel();
 }
@@ -113,6 +111,13 @@ void frmMain::selectTrack(int row) {
 void frmMain::tracksReplaced() {
     showTracks();
     trackChooser_->showSelected(document_.CurrentTrack - 1);
+    hideTrackChooser();
+}
+
+void frmMain::hideTrackChooser() {
+    if (!trackChooser_->isVisible()) return;
+    trackChooser_->hide();
+    focusPage();
 }
 
 void frmMain::showTracks() { trackChooser_->showTracks(document_); }
@@ -145,7 +150,12 @@ frmFileProperties& frmMain::loadFrmFileProperties() {
     return *fileProperties_;
 }
 
-void frmMain::showFrmFileProperties() { loadFrmFileProperties().open(); }
+// Playback has loaded it perhaps, when another language was the active one.
+void frmMain::showFrmFileProperties() {
+    frmFileProperties& form = loadFrmFileProperties();
+    if (!form.isVisible()) form.LoadLanguage();
+    form.open();
+}
 
 // What it holds goes into the document.
 void frmMain::unloadFileProperties() {

@@ -3,13 +3,29 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace tabrova {
 
 namespace {
 
+// Shows as much of its text as there is room for.
+class StatusPanel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(
+            palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft,
+                         fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+    }
+};
+
 QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
-    auto* panel = new QLabel(bar);
+    auto* panel = new StatusPanel(bar);
     panel->setObjectName(name);
     panel->setTextFormat(Qt::PlainText);
     panel->setCursor(Qt::PointingHandCursor);
@@ -24,7 +40,9 @@ QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
 StatusBar::StatusBar(QWidget* parent) : QFrame(parent) {
     setObjectName("StatusBar1");
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(8, 0, 8, 0);
+    // The track list comes down to 16 pixels above the window's lower edge.
+    row->setContentsMargins(8, 7, 8, 0);
+    row->setSpacing(16);
     track_ = addPanel("StatusBar1(1)", 2, this);
     hint_ = addPanel("StatusBar1(2)", 3, this);
 }

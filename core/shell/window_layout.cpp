@@ -36,6 +36,8 @@ WindowLayout layOutWindow(WindowLayout layout, int clientWidth, int clientHeight
     layout.VScroll1.height = page.height;
     layout.VScroll1.left = page.left + page.width;
     if (layout.fretboardShown) layOutFretboard(layout);
+    // A low window has a low list: its lower edge keeps its place.
+    layout.picTrackChooser.height = std::clamp(clientHeight - TrackChooserGap, 1, TrackChooserHeight);
     layout.picTrackChooser.top = clientHeight - layout.picTrackChooser.height - TrackChooserGap;
     return layout;
 }

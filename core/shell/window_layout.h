@@ -13,6 +13,7 @@ constexpr int StripHeight = 168;
 constexpr int ScrollBarWidth = 16;
 constexpr int FretboardWidth = 89;
 constexpr int StatusBarHeight = 24;
+constexpr int TrackChooserHeight = 200;
 
 struct WindowLayout {
     Rect picDocument = {0, PageTopWithoutStrip, NarrowestFollowedWidth - ScrollBarWidth, 300};
@@ -22,7 +23,7 @@ struct WindowLayout {
     Rect picFretboard = {0, PageTopWithoutStrip, FretboardWidth, 300};
     Rect lbldebug = {0, 0, 330, StatusBarHeight - 2};
     Rect StatusBar1;
-    Rect picTrackChooser = {0, 0, 260, 200};
+    Rect picTrackChooser = {0, 0, 260, TrackChooserHeight};
     bool stripShown = false;
     bool fretboardShown = false;
 };

@@ -1,6 +1,7 @@
 #include "organisers/options/frmOptions.h"
 
 #include "forms/captions.h"
+#include "forms/text_edges.h"
 #include "sound/pitch.h"
 
 #include <QCheckBox>
@@ -28,7 +29,6 @@ constexpr std::array TestFrets = {0, 0, 1, 2, 2, 0}; // E major, string 0 to 5
 frmOptions::~frmOptions() { services_.synthesizer.changed = nullptr; }
 
 void frmOptions::Form_Load() {
-    showBuiltInCaptions(*this, messageSink());
     LoadLanguage();
     chkSplash_->setChecked(services_.settings.GetSetting(Section, SplashFlag, "1") == "1");
     const auto mode = static_cast<std::size_t>(host_.document().RealtimeMode);
@@ -48,7 +48,7 @@ void frmOptions::Form_Load() {
     showSynthesizer();
 }
 
-void frmOptions::LoadLanguage() { readLanguage(*this, services_.programFolder, messageSink()); }
+void frmOptions::LoadLanguage() { loadLanguage(*this, services_.programFolder, messageSink()); }
 
 MessageSink frmOptions::messageSink() {
     return [this](std::string_view name, const QString& text) {
@@ -69,8 +69,9 @@ void frmOptions::listLanguages() {
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
          entry.increment(failed)) {
         std::error_code unknown;
-        if (entry->is_directory(unknown))
-            names.append(QString::fromStdU16String(entry->path().filename().u16string()));
+        const QString name = textOf(entry->path().filename());
+        // A name that is no text could not be found again.
+        if (entry->is_directory(unknown) && !name.contains(QChar::ReplacementCharacter)) names.append(name);
     }
     names.sort(Qt::CaseInsensitive);
     lstLanguages_->clear();
@@ -84,8 +85,7 @@ void frmOptions::lstLanguages_DblClick() {
     std::error_code failed;
     const std::filesystem::path active = activeLanguageFile(services_.programFolder);
     std::filesystem::remove(active, failed);
-    std::filesystem::copy_file(installedLanguages(services_.programFolder) / row->text().toStdU16String() /
-                                   "lang.trl",
+    std::filesystem::copy_file(installedLanguages(services_.programFolder) / pathOf(row->text()) / "lang.trl",
                                active, std::filesystem::copy_options::overwrite_existing, failed);
     LoadLanguage();
     showSynthesizer();

@@ -95,14 +95,16 @@ QGroupBox* frmOptions::buildSynthesizerBox() {
 
 QWidget* frmOptions::buildAppearanceTab() {
     auto* tab = new QWidget(this);
-    lstLanguages_ = new ListBox("lstLanguages", tab);
+    // Made in the order of the Tab key.
+    QWidget* cursorBox = buildCursorBox();
     chkStats_ = named(new QCheckBox(tab), "chkStats");
     chkSplash_ = named(new QCheckBox(tab), "chkSplash");
     Check2_ = named(new QCheckBox(tab), "Check2");
     Check2_->hide();
+    lstLanguages_ = new ListBox("lstLanguages", tab);
     auto* column = new QVBoxLayout(tab);
     column->setContentsMargins(Gap, Gap, Gap, Gap);
-    column->addWidget(buildCursorBox());
+    column->addWidget(cursorBox);
     column->addSpacing(Gap / 2);
     for (QCheckBox* box : {chkStats_, chkSplash_, Check2_})
         column->addWidget(box);

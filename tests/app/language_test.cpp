@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <filesystem>
+
 namespace tabrova::testing {
 namespace {
 
@@ -94,6 +96,29 @@ TEST_F(Languages, WithoutAFileTakeTheActiveOneAwayAndNothingElse) {
     EXPECT_FALSE(QFile::exists(home.filePath("lang.trl")));
     EXPECT_EQ(text("mnuFile"), "&File");
     EXPECT_TRUE(drive->ok("boxes")["boxes"].toArray().isEmpty());
+}
+
+TEST_F(Languages, OfTheFixedLinesAloneBringTheOtherTextsBack) {
+    apply("German");
+    EXPECT_NE(text("mnuSaveAs"), "Save &As...");
+    QFile file(home.filePath("languages/English/lang.trl"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArrayList lines = file.readAll().split('\n').mid(0, 343);
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(lines.join('\n'));
+    file.close();
+    apply("English");
+    EXPECT_EQ(text("mnuSaveAs"), "Save &As...");
+    EXPECT_EQ(text("AddTrack"), "&Add Track");
+}
+
+TEST_F(Languages, WithAFolderWhoseNameIsNoTextAreStillListed) {
+    const std::string name = home.path().toStdString() + "/languages/x\xFF\xFE";
+    std::error_code failed;
+    std::filesystem::create_directory(name, failed);
+    drive = std::make_unique<DriverSession>(QStringList{"--home", home.path()});
+    EXPECT_EQ(drive->get("frmOptions.lstLanguages items").toArray().size(), 3);
 }
 
 TEST_F(Languages, StayForTheNextStart) {

@@ -177,6 +177,14 @@ TEST_F(Tracks, OfAnOpenedDocumentFillTheSelector) {
     EXPECT_EQ(drive.get("TrackNames").toInt(), 0);
 }
 
+TEST_F(Tracks, TheSelectorGoesWithTheDocument) {
+    drive.ok("do mnuChoose");
+    drive.ok("answer no");
+    drive.ok("do mnuFileNew");
+    drive.ok("press frmFileProperties Escape");
+    EXPECT_FALSE(chooserVisible());
+}
+
 TEST_F(Tracks, StandStillDuringPlayback) {
     add("no");
     drive.ok("do mnuChoose");

@@ -109,6 +109,20 @@ TEST_F(TrackTable, RowsOfADocumentReadInPartAreNoHazard) {
     EXPECT_EQ(document.TrackCount, 5);
 }
 
+TEST_F(TrackTable, ACountBelowZeroIsNoHazard) {
+    document.TrackCount = -5;
+    add(true);
+    EXPECT_EQ(document.TrackCount, -4);
+    EXPECT_FALSE(document.GuitarTrackFlags.empty());
+}
+
+TEST_F(TrackTable, TheTuningOfADocumentReadInPartStays) {
+    document.TrackCount = 2;
+    document.TrackNames = {"a", "b"};
+    removeCurrentTrack(document);
+    EXPECT_EQ(document.TuningTable, std::vector<std::int16_t>(6, 13));
+}
+
 // What a track is, all in one piece.
 struct PlainTrack {
     std::string name = "Untitled Track", instrument = "24", volume = "127";

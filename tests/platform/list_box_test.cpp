@@ -83,6 +83,20 @@ TEST_F(Lists, TakeTheRowUnderADoubleClickThatComesWithoutAPress) {
     EXPECT_EQ(row, 2);
 }
 
+TEST_F(Lists, KeepTheChosenRowAtAClickBelowTheRows) {
+    list.setCurrentRow(1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {20, 180});
+    EXPECT_EQ(list.chosenRow(), 1);
+}
+
+TEST_F(Lists, TakeNoNoticeOfOtherButtons) {
+    list.setCurrentRow(1);
+    QTest::mouseClick(list.viewport(), Qt::RightButton, {}, place(2));
+    QTest::mouseClick(list.viewport(), Qt::MiddleButton, {}, place(0));
+    EXPECT_EQ(list.chosenRow(), 1);
+    EXPECT_TRUE(rows.empty());
+}
+
 TEST_F(Lists, HaveNoChosenRowWhereTheKeyboardAloneStands) {
     list.setFocus();
     EXPECT_EQ(list.chosenRow(), -1);

@@ -1,9 +1,11 @@
 // The windows for the properties of document and tracks, with real clicks and keys.
 #include "core/document_operations.h"
 #include "core/shell/properties/track_texts.h"
+#include "forms/text_edges.h"
 #include "tests/shell/main_window.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -103,22 +105,28 @@ TEST_F(PropertiesWindows, ClosingByEscapeWritesBackToo) {
     EXPECT_EQ(document().Tempo, 60);
 }
 
-TEST_F(PropertiesWindows, WhatWasNotTouchedKeepsTheDocumentsBytes) {
+TEST_F(PropertiesWindows, NumbersBecomeWhatTheControlsShow) {
+    load();
+    document().Tempo = 5000;
+    document().PreventReverberations = 5;
+    openFileProperties();
+    press(*properties, "Command1");
+    EXPECT_EQ(document().Tempo, 2000);
+    EXPECT_EQ(document().PreventReverberations, 1);
+}
+
+TEST_F(PropertiesWindows, TextsThatWereNotTouchedKeepTheDocumentsBytes) {
     load();
     document().Title = std::string(40, 'T') + "\r\t";
     document().Author = "a\nb";
-    document().Tempo = 7;
     document().Notes = std::string(300, 'n') + "\rx";
-    document().PreventReverberations = 5;
     document().DoubleTime = -1;
     const std::string title = document().Title, author = document().Author, notes = document().Notes;
     openFileProperties();
     press(*properties, "Command1");
     EXPECT_EQ(document().Title, title);
     EXPECT_EQ(document().Author, author);
-    EXPECT_EQ(document().Tempo, 7);
     EXPECT_EQ(document().Notes, notes);
-    EXPECT_EQ(document().PreventReverberations, 5);
     EXPECT_EQ(document().DoubleTime, -1);
 }
 
@@ -253,10 +261,58 @@ TEST_F(PropertiesWindows, AVolumeThatIsNoNumberStaysUntilTheSliderMoves) {
         document().TrackVolumes.front() = text;
         openTrackProperties();
         EXPECT_EQ(document().TrackVolumes.front(), text);
-        EXPECT_EQ(control<QSlider>(*track, "tVolume")->value(), std::string(text) == " 90 " ? 90 : 127);
+        EXPECT_EQ(control<QSlider>(*track, "tVolume")->value(), trackVolume(document(), 1).value_or(127));
         press(*track, "Command3");
         EXPECT_EQ(document().TrackVolumes.front(), text);
     }
+}
+
+TEST_F(PropertiesWindows, AVolumeThatIsNoNumberTakesTheEndOfTheSlider) {
+    load();
+    document().TrackVolumes.front() = "loud";
+    openTrackProperties();
+    QTest::keyClick(control<QSlider>(*track, "tVolume"), Qt::Key_End);
+    EXPECT_EQ(document().TrackVolumes.front(), "127");
+}
+
+TEST_F(PropertiesWindows, NotesThatAreFullRefuseAKeyAndKeepTheirEnd) {
+    load();
+    openFileProperties();
+    auto* notes = control<QPlainTextEdit>(*properties, "txtNotes");
+    notes->setPlainText(QString(247, 'n') + "END");
+    notes->moveCursor(QTextCursor::Start);
+    QTest::keyClicks(notes, "hello");
+    EXPECT_EQ(notes->toPlainText(), QString(247, 'n') + "END");
+    notes->selectAll();
+    QTest::keyClicks(notes, "abc");
+    QTest::sendKeyEvent(QTest::Click, notes, Qt::Key_unknown, QString::fromUtf8("Ж"), Qt::NoModifier);
+    EXPECT_EQ(notes->toPlainText(), "abc");
+    notes->undo();
+    EXPECT_NE(notes->toPlainText(), "abc");
+    QApplication::clipboard()->setText(QString::fromUtf8("a\r\nЖb") + QString(400, 'c'));
+    notes->selectAll();
+    notes->paste();
+    EXPECT_EQ(notes->toPlainText().left(5), "a\nbcc");
+    EXPECT_EQ(notes->toPlainText().size(), 249);
+}
+
+TEST_F(PropertiesWindows, LineEndsThatArePastedIntoANameAreBlanks) {
+    load();
+    openTrackProperties();
+    auto* name = control<QLineEdit>(*track, "txtTrackName");
+    name->clear();
+    QApplication::clipboard()->setText("A\r\nB\tC");
+    name->paste();
+    press(*track, "Command3");
+    EXPECT_EQ(document().TrackNames.front(), "A  B C");
+}
+
+TEST_F(PropertiesWindows, ANameMayHoldWhatTheToolkitTakesForAMark) {
+    load();
+    document().TrackNames.front() = "A[*]B";
+    openTrackProperties();
+    EXPECT_EQ(titleOf(*track), "Track Properties - A[*]B");
+    EXPECT_EQ(track->windowTitle(), "Track Properties - A[*][*]B");
 }
 
 TEST_F(PropertiesWindows, TheInstrumentIsStoredAsTextAndSent) {

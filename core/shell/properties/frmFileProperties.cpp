@@ -1,5 +1,6 @@
 #include "core/shell/properties/frmFileProperties.h"
 
+#include "core/shell/properties/notes_box.h"
 #include "forms/captions.h"
 #include "forms/code_page_text.h"
 #include "forms/logo.h"
@@ -8,12 +9,9 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QSlider>
 #include <QSpinBox>
-#include <QTextCursor>
 
 #include <algorithm>
 
@@ -25,15 +23,11 @@ constexpr int SlowestSpeed = 20; // columns a minute
 constexpr int FastestSpeed = 2000;
 constexpr int LargeSpeedStep = 5;
 constexpr int LongestName = 30; // characters
-constexpr int LongestNotes = 250;
-constexpr int LineEnd = 2; // characters that a line end counts
 
 // The document's line ends are CR LF.
 QString notesOf(const Document& document) { return fromCodePage(document.Notes).replace("\r\n", "\n"); }
 
 std::string bytesOfNotes(const QString& text) { return toCodePage(QString(text).replace("\n", "\r\n")); }
-
-qsizetype lengthOfNotes(const QString& text) { return text.size() + (LineEnd - 1) * text.count('\n'); }
 
 // A name that a file brought along is not cut.
 void showName(QLineEdit& box, const QString& name) {
@@ -49,6 +43,7 @@ frmFileProperties::frmFileProperties(PropertiesHost& host, const std::filesystem
     : QDialog(parent), host_(host), programFolder_(programFolder) {
     setObjectName("frmFileProperties");
     setWindowModality(Qt::WindowModal);
+    const auto foreignHint = [this] { return QString::fromStdString(host_.words().foreignCharacter); };
     // In the order of the Tab key.
     txtTitle_ = named(new QLineEdit(this), "txtTitle");
     txtAuthor_ = named(new QLineEdit(this), "txtAuthor");
@@ -60,17 +55,16 @@ frmFileProperties::frmFileProperties(PropertiesHost& host, const std::filesystem
     spnSpeed_->setRange(SlowestSpeed, FastestSpeed);
     spnSpeed_->setKeyboardTracking(false);
     chkSpeedBoost_ = named(new QCheckBox(this), "chkSpeedBoost");
-    txtNotes_ = named(new QPlainTextEdit(this), "txtNotes");
-    txtNotes_->setTabChangesFocus(true);
+    txtNotes_ = new NotesBox(this);
+    txtNotes_->hint = foreignHint;
     chkReverb_ = named(new QCheckBox(this), "chkReverb");
     Command1_ = named(new QPushButton(this), "Command1");
     Command1_->setDefault(true);
     for (QLineEdit* box : {txtTitle_, txtAuthor_})
-        restrictToCodePage(*box, [this] { return QString::fromStdString(host_.words().foreignCharacter); });
+        restrictToCodePage(*box, foreignHint);
     build();
     connect(sldSpeed_, &QSlider::valueChanged, spnSpeed_, &QSpinBox::setValue);
     connect(spnSpeed_, &QSpinBox::valueChanged, sldSpeed_, &QSlider::setValue);
-    connect(txtNotes_, &QPlainTextEdit::textChanged, this, [this] { keepNotesShort(); });
     connect(Command1_, &QPushButton::clicked, this, [this] { close(); });
 }
 
@@ -100,32 +94,31 @@ void frmFileProperties::build() {
 }
 
 void frmFileProperties::Form_Load() {
-    loadLanguage(*this, programFolder_);
+    LoadLanguage();
     const Document& document = host_.document();
     showName(*txtTitle_, fromCodePage(document.Title));
     showName(*txtAuthor_, fromCodePage(document.Author));
     sldSpeed_->setValue(document.Tempo);
     spnSpeed_->setValue(sldSpeed_->value());
     chkSpeedBoost_->setChecked(document.DoubleTime != False16);
-    notes_ = notesOf(document);
-    txtNotes_->setPlainText(notes_);
+    txtNotes_->showNotes(notesOf(document));
     chkReverb_->setChecked(document.PreventReverberations != 0);
     title_ = txtTitle_->text();
     author_ = txtAuthor_->text();
     notes_ = txtNotes_->toPlainText();
-    speed_ = sldSpeed_->value();
-    reverb_ = chkReverb_->isChecked();
     resize(sizeHint().expandedTo({430, 380}));
 }
+
+void frmFileProperties::LoadLanguage() { loadLanguage(*this, programFolder_); }
 
 void frmFileProperties::Form_Unload() {
     Document& document = host_.document();
     if (txtTitle_->text() != title_) document.Title = toCodePage(txtTitle_->text());
     if (txtAuthor_->text() != author_) document.Author = toCodePage(txtAuthor_->text());
-    if (sldSpeed_->value() != speed_) document.Tempo = static_cast<std::int16_t>(sldSpeed_->value());
+    document.Tempo = static_cast<std::int16_t>(sldSpeed_->value());
     document.DoubleTime = boolean16(chkSpeedBoost_->isChecked());
     if (txtNotes_->toPlainText() != notes_) document.Notes = bytesOfNotes(txtNotes_->toPlainText());
-    if (chkReverb_->isChecked() != reverb_) document.PreventReverberations = chkReverb_->isChecked() ? 1 : 0;
+    document.PreventReverberations = chkReverb_->isChecked() ? 1 : 0;
 }
 
 bool frmFileProperties::speedBoost() const { return chkSpeedBoost_->isChecked(); }
@@ -138,24 +131,6 @@ void frmFileProperties::showEvent(QShowEvent* event) {
 void frmFileProperties::done(int result) {
     QDialog::done(result);
     host_.fileProperties_Closed();
-}
-
-// Notes that a file brought along may stay longer, but do not grow.
-void frmFileProperties::keepNotesShort() {
-    const QString text = txtNotes_->toPlainText();
-    QString kept;
-    for (const QChar character : text)
-        if (character == '\n' || toCodePage(character) != "?" || character == '?') kept.append(character);
-    const qsizetype most = std::max<qsizetype>(LongestNotes, lengthOfNotes(notes_));
-    while (lengthOfNotes(kept) > most)
-        kept.chop(1);
-    if (kept == text) return;
-    const QSignalBlocker quiet(txtNotes_);
-    const int position = txtNotes_->textCursor().position();
-    txtNotes_->setPlainText(kept);
-    QTextCursor cursor = txtNotes_->textCursor();
-    cursor.setPosition(std::min(position, static_cast<int>(kept.size())));
-    txtNotes_->setTextCursor(cursor);
 }
 
 } // namespace tabrova

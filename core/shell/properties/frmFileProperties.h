@@ -11,19 +11,21 @@
 
 class QCheckBox;
 class QLineEdit;
-class QPlainTextEdit;
 class QPushButton;
 class QSlider;
 class QSpinBox;
 
 namespace tabrova {
 
+class NotesBox;
+
 class frmFileProperties : public QDialog {
   public:
     frmFileProperties(PropertiesHost& host, const std::filesystem::path& programFolder, QWidget* parent);
 
     void Form_Load();
-    // What the user has not touched keeps the document's value, also one that the control cannot show.
+    void LoadLanguage();
+    // Texts that the user has not touched stay as they are, whatever the boxes can show.
     void Form_Unload();
     bool speedBoost() const;
 
@@ -33,7 +35,6 @@ class frmFileProperties : public QDialog {
 
   private:
     void build();
-    void keepNotesShort();
 
     PropertiesHost& host_;
     std::filesystem::path programFolder_;
@@ -42,13 +43,11 @@ class frmFileProperties : public QDialog {
     QSlider* sldSpeed_;
     QSpinBox* spnSpeed_;
     QCheckBox* chkSpeedBoost_;
-    QPlainTextEdit* txtNotes_;
+    NotesBox* txtNotes_;
     QCheckBox* chkReverb_;
     QPushButton* Command1_;
     // As shown at the load.
     QString title_, author_, notes_;
-    int speed_ = 0;
-    bool reverb_ = false;
 };
 
 } // namespace tabrova

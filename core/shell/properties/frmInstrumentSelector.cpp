@@ -16,7 +16,8 @@ namespace tabrova {
 namespace {
 
 constexpr std::size_t MostInstruments = 32768;
-constexpr int LowestSample = 40; // MIDI notes
+constexpr qsizetype LongestName = 60; // characters
+constexpr int LowestSample = 40;      // MIDI notes
 constexpr int SampleRange = 34;
 constexpr int SampleMilliseconds = 2000;
 
@@ -56,7 +57,7 @@ frmInstrumentSelector::frmInstrumentSelector(Services& services, PropertiesHost&
 
 void frmInstrumentSelector::fill_sound_list() {
     for (const std::string& name : readTextLines(services_.programFolder / "genmidi.txt", MostInstruments))
-        lst_Instrument_->addItem(QString::fromStdString(name));
+        lst_Instrument_->addItem(QString::fromStdString(name).left(LongestName));
 }
 
 void frmInstrumentSelector::Form_Load() {

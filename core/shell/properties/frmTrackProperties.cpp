@@ -5,9 +5,9 @@
 #include "forms/captions.h"
 #include "forms/code_page_text.h"
 #include "forms/named.h"
+#include "forms/text_edges.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -20,63 +20,51 @@ frmTrackProperties::frmTrackProperties(PropertiesHost& host, const std::filesyst
     : QDialog(parent), host_(host), programFolder_(programFolder) {
     setObjectName("frmTrackProperties");
     setWindowModality(Qt::WindowModal);
-    Command3_ = named(new QPushButton(this), "Command3");
-    Command3_->setDefault(true);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 14, 16, 14);
-    column->setSpacing(10);
-    column->addWidget(buildName());
-    column->addWidget(buildSound());
-    column->addStretch();
-    column->addWidget(Command3_, 0, Qt::AlignRight);
+    buildControls();
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(16, 14, 16, 14);
+    grid->setVerticalSpacing(8);
+    grid->setHorizontalSpacing(10);
+    grid->addWidget(labelOf(txtTrackName_, "Label1", this), 0, 0);
+    grid->addWidget(txtTrackName_, 0, 1);
+    grid->addWidget(Command9_, 0, 2);
+    grid->addWidget(lblPatchDisplay_, 1, 0, 1, 2);
+    grid->addWidget(Command2_, 1, 2);
+    grid->addWidget(Label6_, 2, 0);
+    grid->addWidget(lblTuning_, 2, 1);
+    grid->addWidget(Command1_, 2, 2);
+    grid->addWidget(labelOf(tVolume_, "Label2", this), 3, 0);
+    grid->addWidget(tVolume_, 3, 1);
+    grid->addWidget(lblVolume_, 3, 2, Qt::AlignCenter);
+    grid->setRowMinimumHeight(3, Command1_->sizeHint().height());
+    grid->setRowMinimumHeight(4, 6);
+    grid->addWidget(Command3_, 5, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(4, 1);
     connectControls();
 }
 
-QWidget* frmTrackProperties::buildName() {
-    auto* box = new QWidget(this);
-    txtTrackName_ = named(new QLineEdit(box), "txtTrackName");
+// In the order of the Tab key.
+void frmTrackProperties::buildControls() {
+    txtTrackName_ = named(new QLineEdit(this), "txtTrackName");
     restrictToCodePage(*txtTrackName_,
                        [this] { return QString::fromStdString(host_.words().foreignCharacter); });
-    Command9_ = named(new QPushButton(box), "Command9");
-    Command9_->setAutoDefault(false);
-    auto* row = new QHBoxLayout(box);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(labelOf(txtTrackName_, "Label1", box));
-    row->addWidget(txtTrackName_, 1);
-    row->addWidget(Command9_);
-    return box;
-}
-
-QWidget* frmTrackProperties::buildSound() {
-    auto* box = new QWidget(this);
-    lblPatchDisplay_ = named(new QLabel(box), "lblPatchDisplay");
-    lblTuning_ = named(new QLabel(box), "lblTuning");
-    lblVolume_ = named(new QLabel(box), "lblVolume");
+    Command9_ = named(new QPushButton(this), "Command9");
+    lblPatchDisplay_ = named(new QLabel(this), "lblPatchDisplay");
+    Command2_ = named(new QPushButton(this), "Command2");
+    lblTuning_ = named(new QLabel(this), "lblTuning");
+    Command1_ = named(new QPushButton(this), "Command1");
+    Label6_ = labelOf(Command1_, "Label6", this);
+    tVolume_ = named(new QSlider(Qt::Horizontal, this), "tVolume");
+    tVolume_->setRange(LeastVolume, MostVolume);
+    tVolume_->setMinimumWidth(180);
+    lblVolume_ = named(new QLabel(this), "lblVolume");
+    Command3_ = named(new QPushButton(this), "Command3");
     for (QLabel* label : {lblPatchDisplay_, lblTuning_, lblVolume_})
         label->setTextFormat(Qt::PlainText);
-    lblVolume_->setMinimumWidth(lblVolume_->fontMetrics().horizontalAdvance("000"));
-    lblVolume_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    tVolume_ = named(new QSlider(Qt::Horizontal, box), "tVolume");
-    tVolume_->setRange(LeastVolume, MostVolume);
-    tVolume_->setMinimumWidth(160);
-    Command1_ = named(new QPushButton(box), "Command1");
-    Command2_ = named(new QPushButton(box), "Command2");
-    for (QPushButton* button : {Command1_, Command2_})
+    for (QPushButton* button : {Command9_, Command2_, Command1_})
         button->setAutoDefault(false);
-    Label6_ = labelOf(Command1_, "Label6", box);
-    auto* grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(8);
-    grid->addWidget(lblPatchDisplay_, 0, 0, 1, 2);
-    grid->addWidget(Command2_, 0, 2);
-    grid->addWidget(Label6_, 1, 0);
-    grid->addWidget(lblTuning_, 1, 1);
-    grid->addWidget(Command1_, 1, 2);
-    grid->addWidget(labelOf(tVolume_, "Label2", box), 2, 0);
-    grid->addWidget(tVolume_, 2, 1);
-    grid->addWidget(lblVolume_, 2, 2);
-    grid->setColumnStretch(1, 1);
-    return box;
+    Command3_->setDefault(true);
 }
 
 void frmTrackProperties::connectControls() {
@@ -87,12 +75,16 @@ void frmTrackProperties::connectControls() {
     });
     connect(Command1_, &QPushButton::clicked, this, [this] { host_.openTuningManager(); });
     connect(Command2_, &QPushButton::clicked, this, [this] { host_.openInstrumentSelector(this); });
-    connect(tVolume_, &QSlider::valueChanged, this, [this](int volume) {
-        lblVolume_->setNum(volume);
-        Document& document = host_.document();
-        if (document.TrackCount > 0)
-            setCurrentTrackRow(document, document.TrackVolumes, std::to_string(volume));
-    });
+    connect(tVolume_, &QSlider::valueChanged, this, [this](int volume) { tVolume_Change(volume); });
+    // An act that leaves the slider at its end sets a volume that the slider could not show.
+    connect(tVolume_, &QSlider::actionTriggered, this,
+            [this] { tVolume_Change(tVolume_->sliderPosition()); });
+}
+
+void frmTrackProperties::tVolume_Change(int volume) {
+    lblVolume_->setNum(volume);
+    Document& document = host_.document();
+    if (document.TrackCount > 0) setCurrentTrackRow(document, document.TrackVolumes, std::to_string(volume));
 }
 
 void frmTrackProperties::Form_Load() {
@@ -131,7 +123,7 @@ void frmTrackProperties::showKindOfTrack() {
     const Document& document = host_.document();
     const bool guitar = document.isGuitarTrack(document.CurrentTrack);
     const QString name = fromCodePage(trackName(document, document.CurrentTrack));
-    setWindowTitle(titleWords_ + name + (guitar ? "" : " (Perc.)"));
+    setTitleOf(*this, titleWords_ + name + (guitar ? "" : " (Perc.)"));
     for (QLabel* label : {Label6_, lblTuning_, lblPatchDisplay_})
         label->setVisible(guitar);
     Command1_->setEnabled(guitar && host_.hasTuningManager());

@@ -24,8 +24,8 @@ class frmTrackProperties : public QDialog {
     void showTuning();
 
   private:
-    QWidget* buildName();
-    QWidget* buildSound();
+    void buildControls();
+    void tVolume_Change(int volume);
     void connectControls();
     // Title, and which controls there are: a percussion track has neither tuning nor instrument.
     void showKindOfTrack();

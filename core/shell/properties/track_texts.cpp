@@ -3,6 +3,8 @@
 #include "core/track_table.h"
 #include "sound/pitch.h"
 
+#include <algorithm>
+
 namespace tabrova {
 
 namespace {
@@ -34,8 +36,8 @@ std::optional<int> trackProgram(const Document& document, int track) {
 
 std::optional<int> trackVolume(const Document& document, int track) {
     const auto volume = listInteger(document.TrackVolumes, track - 1);
-    return volume && *volume >= LeastVolume && *volume <= MostVolume ? std::optional<int>(*volume)
-                                                                     : std::nullopt;
+    if (!volume) return std::nullopt;
+    return std::clamp<int>(*volume, LeastVolume, MostVolume);
 }
 
 } // namespace tabrova

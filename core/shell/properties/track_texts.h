@@ -15,7 +15,7 @@ std::string tuningNames(const Document& document, int track);
 // The track's program as a row of the instrument list; std::nullopt for a text that is no number.
 std::optional<int> trackProgram(const Document& document, int track);
 
-// The track's volume, 60 to 127; std::nullopt for a text that is no such number.
+// The track's volume, brought into 60 to 127; std::nullopt for a text that is no number.
 std::optional<int> trackVolume(const Document& document, int track);
 
 } // namespace tabrova
