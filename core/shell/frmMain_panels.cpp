@@ -3,6 +3,7 @@
 #include "core/document_operations.h"
 #include "core/shell/code_page_text.h"
 #include "core/shell/frmMain.h"
+#include "core/shell/key_mapping.h"
 #include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
 
@@ -15,17 +16,6 @@ namespace tabrova {
 namespace {
 
 QRect qRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
-
-MouseButton buttonOf(int qtButton) {
-    switch (qtButton) {
-    case Qt::LeftButton:
-        return MouseButton::Left;
-    case Qt::RightButton:
-        return MouseButton::Right;
-    default:
-        return MouseButton::Middle;
-    }
-}
 
 } // namespace
 
@@ -40,7 +30,7 @@ void frmMain::buildPanels() {
     VScroll1_->setObjectName("VScroll1");
     VScroll1_->setRange(1, 1);
     VScroll1_->setFocusPolicy(Qt::NoFocus);
-    fretboard_ = new SurfaceWidget("picFretboard", view_.picFretboard, client_);
+    fretboard_ = new FretboardWidget(view_.picFretboard, client_);
     statusBar_ = new StatusBar(client_);
     lbldebug_ = new QLabel(client_);
     lbldebug_->setObjectName("lbldebug");
@@ -93,7 +83,7 @@ void frmMain::connectPage() {
     PageWidget::Handlers handlers;
     handlers.key = [this](int keyCode, int shift) { editor_.picDocument_KeyDown(keyCode, shift); };
     handlers.mouseDown = [this](int button, int x, int y) {
-        editor_.picDocument_MouseDown(buttonOf(button), x, y);
+        editor_.picDocument_MouseDown(mouseButtonOf(button), x, y);
     };
     handlers.doubleClick = [this] {
         if (!document_.isGuitarTrack(document_.CurrentTrack)) showFrmPercussion();
