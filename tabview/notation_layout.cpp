@@ -51,7 +51,8 @@ class NotationPass {
 
   private:
     void addColumn(int column);
-    void addNote(int string, const RhythmPlace& place, ValueCode value);
+    void addNote(int column, int string, ValueCode value);
+    void addRhythm(int column);
     void addTechnique(int column, int string);
     void GetTopToPut(int column, int string);
     void setNoteTop(int top);
@@ -94,35 +95,34 @@ int NotationPass::lowestStringWithNote(int column) const {
     return 0;
 }
 
-// All notes of a column have one value, which the empty cells above its first note do not yet know.
+// The empty cells above a column's first note do not know its value yet.
 void NotationPass::addColumn(int column) {
-    const int inDocument = firstColumn_ + column;
-    if (!columnIsEmpty(document_, inDocument, firstRow_)) {
-        const ValueCode value = valueByLookAhead(document_, inDocument, firstRow_);
-        const RhythmPlace place = {(document_.CurrentStaff - document_.TopStaff - 1) * SlotHeight, column,
-                                   document_.ColumnWidth, lowestStringWithNote(column)};
-        for (int string = 0; string < StringsPerTrack; ++string) {
-            if (document_.NoteGrid.at(inDocument, firstRow_ + string) != EmptyText)
-                addNote(string, place, value);
-            addTechnique(column, string);
-        }
-    } else {
-        for (int string = 0; string < StringsPerTrack; ++string)
-            addTechnique(column, string);
+    const bool empty = columnIsEmpty(document_, firstColumn_ + column, firstRow_);
+    const ValueCode value = empty ? value_ : valueByLookAhead(document_, firstColumn_ + column, firstRow_);
+    for (int string = 0; string < StringsPerTrack; ++string) {
+        if (document_.NoteGrid.at(firstColumn_ + column, firstRow_ + string) != EmptyText)
+            addNote(column, string, value);
+        addTechnique(column, string);
     }
+    if (!empty) addRhythm(column);
     ColumnValue[static_cast<std::size_t>(column)] = value_;
 }
 
-void NotationPass::addNote(int string, const RhythmPlace& place, ValueCode value) {
-    const int column = place.columnInStaff;
+void NotationPass::addNote(int column, int string, ValueCode value) {
     GetTopToPut(column, string);
     if (NoteTop > 0) NoteTops[static_cast<std::size_t>(column)][static_cast<std::size_t>(string)] = NoteTop;
     value_ = value;
     const Rect& head = noteValue(value)->head;
     layout_.strip.push_back(
         {{document_.ColumnWidth * column + 37, NoteTop - 13, head.width, head.height}, head, Raster::SrcAnd});
+}
+
+// Once for all notes of the column: each of them would draw the same over it.
+void NotationPass::addRhythm(int column) {
+    const RhythmPlace place = {(document_.CurrentStaff - document_.TopStaff - 1) * SlotHeight, column,
+                               document_.ColumnWidth, lowestStringWithNote(column)};
     addRhythmStem(layout_.page, place);
-    if (document_.barMark(firstColumn_ + column + 1).empty()) addRhythmBeam(layout_.page, place, value);
+    if (document_.barMark(firstColumn_ + column + 1).empty()) addRhythmBeam(layout_.page, place, value_);
 }
 
 void NotationPass::addTechnique(int column, int string) {

@@ -14,7 +14,7 @@ struct RhythmPlace {
     int lowestString; // of those with a note in the column
 };
 
-// The stem from the lowest note down; one row for every note of the column draws the same.
+// The stem from the lowest note down.
 void addRhythmStem(std::vector<SpriteCopy>& copies, const RhythmPlace& place);
 
 // What follows the stem when no bar mark stands in the next column: the beams up to the end stem, the dotted

@@ -24,7 +24,11 @@ class PlainNotation {
                     if (noteTop_ > 0) noteTops_[c][s] = noteTop_;
                     value = lookAhead(a);
                     head(c, value);
+                    const std::size_t before = out_.page.size();
                     rhythm(c, a, r, value);
+                    if (empty(a, a, s))
+                        pageOnce_.insert(pageOnce_.end(), out_.page.begin() + static_cast<long>(before),
+                                         out_.page.end());
                 }
                 int span = 0;
                 if (value == 16) span = 1;
@@ -41,6 +45,8 @@ class PlainNotation {
         return out_;
     }
     int noteTop() const { return noteTop_; }
+    // The page's copies with those of each column's first note alone: the others draw the same over them.
+    const std::vector<SpriteCopy>& pageOnce() const { return pageOnce_; }
 
   private:
     std::string note(int column, int s) const {
@@ -79,9 +85,9 @@ class PlainNotation {
             out_.strip.push_back({{cw() * column + 28, noteTop_ - 3, 8, 9}, {470, 35, 8, 9}, Raster::SrcAnd});
     }
 
-    bool empty(int first, int last) const {
+    bool empty(int first, int last, int strings = 6) const {
         for (int column = first; column <= last; ++column)
-            for (int s = 0; s < 6; ++s)
+            for (int s = 0; s < strings; ++s)
                 if (note(column, s) != "") return false;
         return true;
     }
@@ -184,6 +190,7 @@ class PlainNotation {
     const Document& document_;
     int noteTop_;
     NotationLayout out_;
+    std::vector<SpriteCopy> pageOnce_;
     int columnValue_[33] = {};
     int noteTops_[33][6] = {};
 };
