@@ -49,8 +49,9 @@ void paintNeck(Surface& surface, const FretboardLayout& layout, QRgb inlayColor)
     }
 }
 
-// The middle of the string's line, or the image pixel's edge next to it, so that the ring is sharp.
-void paintDots(Surface& surface, const FretboardLayout& layout, QRgb color) {
+// A dot's middle is that of its string's line, or the image pixel's edge next to it, so that the ring is
+// sharp.
+void DrawNotesOnToFretBoard(Surface& surface, const FretboardLayout& layout, QRgb color) {
     QPainter painter(&surface.image());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
@@ -72,7 +73,7 @@ void paintDots(Surface& surface, const FretboardLayout& layout, QRgb color) {
 void paintFretboard(Surface& surface, const FretboardLayout& layout, const FretboardColors& colors) {
     paintNeck(surface, layout, colors.inlay);
     paintLabels(surface, layout);
-    paintDots(surface, layout, colors.dot);
+    DrawNotesOnToFretBoard(surface, layout, colors.dot);
 }
 
 } // namespace tabrova
