@@ -92,6 +92,13 @@ void CellColumn::clear(int first, int count) {
     std::memset(cells_.get() + bytesOf(width_, first), 0, bytesOf(width_, count));
 }
 
+void CellColumn::removeRows(int first, int count, int rows) {
+    if (width_ == Width::Empty) return;
+    std::memmove(cells_.get() + bytesOf(width_, first), cells_.get() + bytesOf(width_, first + count),
+                 bytesOf(width_, rows - first - count));
+    clear(rows - count, count);
+}
+
 void CellColumn::copyRows(const CellColumn& from, int first, int count, int rows) {
     if (from.width_ == Width::Empty) return clear(first, count);
     if (from.width_ > width_) widen(from.width_, rows);

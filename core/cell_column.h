@@ -26,6 +26,8 @@ class CellColumn {
     void resize(int oldRows, int newRows);
     // Rows first to first + count - 1 become "".
     void clear(int first, int count);
+    // The rows behind first + count - 1 move up by `count`; the last `count` of `rows` become "".
+    void removeRows(int first, int count, int rows);
     // The same rows take the cells of `from`.
     void copyRows(const CellColumn& from, int first, int count, int rows);
     void reset() {

@@ -58,6 +58,12 @@ void CellGrid::insertCells(int at, int end, int firstRow, int rowCount) {
     columns[at].clear(firstRow, rowCount);
 }
 
+void CellGrid::removeRows(int first, int count) {
+    if (first < 0 || count < 0 || first + count > rows_) return;
+    for (CellColumn& column : columns_)
+        column.removeRows(first, count, rows_);
+}
+
 void CellGrid::copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount) {
     if (from < 0 || from >= source.columns() || to < 0 || to >= columns()) return;
     const int rowEnd = std::min({firstRow + rowCount, rows_, source.rows_});

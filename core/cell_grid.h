@@ -42,6 +42,9 @@ class CellGrid {
     // The same for the rows firstRow to firstRow + rowCount - 1 alone, one column to the right. The rows must
     // lie in the grid.
     void insertCells(int at, int end, int firstRow, int rowCount);
+    // In all columns the rows behind `first` + `count` - 1 move up by `count`; the last `count` rows become
+    // "". Rows that do not lie in the grid are passed over.
+    void removeRows(int first, int count);
     // The rows firstRow to firstRow + rowCount - 1 of column `to` take the cells of column `from` of
     // `source`. Outside the grids nothing is changed.
     void copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount);

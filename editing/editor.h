@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/document.h"
-#include "core/language_words.h"
+#include "core/language/language_words.h"
 #include "editing/editor_host.h"
 #include "editing/structure_edits.h"
 #include "sound/midi_output.h"

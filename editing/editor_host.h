@@ -1,5 +1,5 @@
-// What the editor asks of the window around it. The editor decides; the host shows. Texts are bytes of the
-// code page.
+// What the editor asks of the window around it. The editor decides; the host shows. Texts are UTF-8,
+// but the title: bytes of the code page.
 #pragma once
 
 #include "tabview/surface.h"
@@ -45,6 +45,8 @@ class EditorHost {
     // The preview's stopper starts afresh; without an interval it keeps its old one.
     virtual void restartSoundStopper(std::optional<int> milliseconds) = 0;
     virtual void unloadFileProperties() = 0;
+    // Other tracks stand in the document now.
+    virtual void tracksReplaced() = 0;
     // The document's only staff cannot be deleted: may it be cleared instead?
     virtual bool confirmClearingOnlyStaff() = 0;
     virtual bool debugMode() const = 0;

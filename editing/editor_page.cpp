@@ -95,6 +95,7 @@ void Editor::MakeNewDocument() {
     page_.nCursor.left = CursorLeft;
     page_.nCursor.top = CursorTop;
     MoveCursor(Direction::Nowhere);
+    host_.tracksReplaced();
     host_.setTrackPanel("Untitled Track " + words_.selectedTrack);
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/document.h"
-#include "core/language_words.h"
+#include "core/language/language_words.h"
 
 #include <string>
 

@@ -1,5 +1,8 @@
 #include "platform/list_box.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
+
 namespace tabrova {
 
 ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
@@ -26,7 +29,20 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
     rowAtPress_ = currentRow();
 }
 
+// The toolkit's own signal comes only after a press on the same row.
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    QListWidget::mouseDoubleClickEvent(event);
+    if (event->button() != Qt::LeftButton) return;
+    if (QListWidgetItem* item = itemAt(event->position().toPoint())) setCurrentItem(item);
+    if (chosenRow() >= 0 && DoubleClick) DoubleClick();
+}
+
 void ListBox::keyPressEvent(QKeyEvent* event) {
+    const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (entered && DoubleClick) {
+        if (chosenRow() >= 0) DoubleClick();
+        return;
+    }
     const int before = currentRow();
     const bool nothingChosen = selectedItems().isEmpty();
     QListWidget::keyPressEvent(event);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <utility>
 
@@ -60,8 +61,11 @@ BoxAnswer DesktopMessageBoxes::ask(const MessageBox& box) {
     window.setTextFormat(Qt::PlainText);
     window.setText(box.text);
     window.setIcon(iconOf(box.icon));
-    for (const BoxAnswer button : box.buttons)
-        window.addButton(buttonOf(button));
+    for (const BoxAnswer button : box.buttons) {
+        const QString text = buttonTexts[button];
+        QPushButton* shown = window.addButton(buttonOf(button));
+        if (!text.isEmpty()) shown->setText(text);
+    }
     window.setDefaultButton(buttonOf(box.buttons.first()));
     return answerOf(window.exec());
 }

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <deque>
+#include <map>
 #include <optional>
 
 namespace tabrova {
@@ -22,6 +23,8 @@ struct MessageBox {
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;
+    // What stands on the buttons instead of the toolkit's words.
+    std::map<BoxAnswer, QString> buttonTexts;
     // A box that is closed without a button answers Cancel.
     virtual BoxAnswer ask(const MessageBox& box) = 0;
 };

@@ -227,11 +227,11 @@ PlaybackState playbackStart(const Document& document, PlayFrom from) {
     return state;
 }
 
-std::optional<int> playbackInterval(const Document& document) {
+std::optional<int> playbackInterval(int tempo, bool doubleTime) {
     constexpr double MillisecondsOfMinute = 60000.0;
-    if (document.Tempo == 0) return std::nullopt;
-    const auto interval = toInteger16(MillisecondsOfMinute / document.Tempo);
-    if (!interval || document.DoubleTime == False16) return interval;
+    if (tempo == 0) return std::nullopt;
+    const auto interval = toInteger16(MillisecondsOfMinute / tempo);
+    if (!interval || !doubleTime) return interval;
     return toInteger16(*interval / 2.0);
 }
 

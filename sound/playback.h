@@ -13,8 +13,8 @@ enum class PlayFrom { Start, Cursor };
 // The state with which playing begins. A play from inside a repeat has lost its start.
 PlaybackState playbackStart(const Document& document, PlayFrom from);
 
-// Milliseconds of a column by Tempo and DoubleTime; std::nullopt for a tempo that gives no 16-bit interval.
-std::optional<int> playbackInterval(const Document& document);
+// Milliseconds of a column; std::nullopt for a tempo (columns a minute) that gives no 16-bit interval.
+std::optional<int> playbackInterval(int tempo, bool doubleTime);
 
 enum class TickResult { Playing, Ended };
 

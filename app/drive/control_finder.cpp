@@ -1,5 +1,7 @@
 #include "app/drive/control_finder.h"
 
+#include "forms/control_names.h"
+
 #include <QApplication>
 
 namespace tabrova {
@@ -7,23 +9,6 @@ namespace tabrova {
 namespace {
 
 bool sameName(const QString& a, const QString& b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
-
-// A dialog is a child of the window that opened it, but a form of its own.
-bool belongsTo(const QObject* object, const QWidget* form) {
-    for (const QObject* at = object; at; at = at->parent()) {
-        if (at == form) return true;
-        const auto* widget = qobject_cast<const QWidget*>(at);
-        if (widget && widget->isWindow() && widget->objectName().startsWith("frm", Qt::CaseInsensitive))
-            return false;
-    }
-    return false;
-}
-
-QObject* findIn(QWidget* form, const QString& name) {
-    for (QObject* object : form->findChildren<QObject*>())
-        if (sameName(object->objectName(), name) && belongsTo(object, form)) return object;
-    return nullptr;
-}
 
 } // namespace
 
@@ -47,7 +32,7 @@ FoundControl findControl(const QString& name) {
     if (!hasForm && name.startsWith("frm", Qt::CaseInsensitive)) return {nullptr, "not loaded"};
     QWidget* form = findForm(hasForm ? name.left(dot) : QString("frmMain"));
     if (!form) return {nullptr, "not loaded"};
-    QObject* control = findIn(form, hasForm ? name.mid(dot + 1) : name);
+    QObject* control = controlNamed(*form, hasForm ? name.mid(dot + 1) : name);
     return control ? FoundControl{control, {}} : FoundControl{nullptr, "no such control"};
 }
 

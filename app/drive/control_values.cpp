@@ -51,7 +51,8 @@ QStringList itemsOf(QObject* control) {
 }
 
 std::optional<int> rowOf(QObject* control) {
-    if (auto* list = as<QListWidget>(control)) return list->currentRow();
+    if (auto* list = as<QListWidget>(control))
+        return list->selectedItems().isEmpty() ? -1 : list->currentRow();
     if (auto* box = as<QComboBox>(control)) return box->currentIndex();
     if (auto* tabs = as<QTabWidget>(control)) return tabs->currentIndex();
     return std::nullopt;
@@ -64,7 +65,7 @@ std::optional<QString> textOf(QObject* control) {
     if (auto* label = as<QLabel>(control)) return label->text();
     if (auto* box = as<QComboBox>(control)) return box->currentText();
     if (auto* list = as<QListWidget>(control))
-        return list->currentItem() ? list->currentItem()->text() : QString();
+        return list->selectedItems().isEmpty() ? QString() : list->selectedItems().first()->text();
     if (auto* button = as<QAbstractButton>(control)) return button->text();
     if (auto* action = as<QAction>(control)) return action->text();
     if (auto* bar = dynamic_cast<StatusBar*>(control)) return bar->trackPanel();

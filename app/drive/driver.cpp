@@ -61,6 +61,8 @@ QJsonObject Driver::run(const QString& line) {
     if (!handler) return error("no such command");
     const QJsonObject result = (this->*handler)(words);
     QApplication::processEvents();
+    // A closed window goes at once, as it would in the program's own loop.
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return result;
 }
 

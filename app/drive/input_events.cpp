@@ -1,5 +1,6 @@
 #include "app/drive/input_events.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QKeySequence>
 #include <QMouseEvent>
@@ -96,8 +97,14 @@ std::optional<MouseCommand> mouseCommand(const QStringList& words) {
     return command;
 }
 
-void actWithMouse(QWidget* widget, MouseAct act, const MouseCommand& command) {
-    const QPoint at = command.position.value_or(widget->rect().center());
+void actWithMouse(QWidget* control, MouseAct act, const MouseCommand& command) {
+    QPoint at = command.position.value_or(control->rect().center());
+    QWidget* widget = control;
+    // The rows of a list and the lines of a text stand in a widget inside the control's frame.
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(control)) {
+        widget = area->viewport();
+        at = widget->mapFrom(control, at);
+    }
     switch (act) {
     case MouseAct::Click:
         press(widget, command.button, at);

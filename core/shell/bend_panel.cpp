@@ -27,7 +27,7 @@ QRect cellAt(int row, int column) {
 // A label that gives the keyboard back to the panel when it is clicked.
 class PanelLabel : public QLabel {
   public:
-    PanelLabel(const char* name, const QString& text, QWidget* panel) : QLabel(text, panel) {
+    PanelLabel(const char* name, QWidget* panel) : QLabel(panel) {
         setObjectName(name);
         QFont small = font();
         small.setPixelSize(11);
@@ -46,11 +46,11 @@ BendPanel::BendPanel(QWidget* parent) : QFrame(parent) {
     setAutoFillBackground(true);
     setFocusPolicy(Qt::StrongFocus);
     setFixedSize(PanelWidth, PanelHeight);
-    auto* title = new PanelLabel("Label1", " String Bend:", this);
+    auto* title = new PanelLabel("Label1", this);
     title->setGeometry(1, 1, PanelWidth - 2, FirstTop - 2);
-    auto* picture = new PanelLabel("Image2", "", this);
+    auto* picture = new PanelLabel("Image2", this);
     picture->setGeometry(1, FirstTop, PanelWidth - 2, 2 * CellHeight);
-    auto* hint = new PanelLabel("Label2", "Use Arrow Keys to Select", this);
+    auto* hint = new PanelLabel("Label2", this);
     hint->setGeometry(4, FirstTop + 2 * CellHeight + 1, PanelWidth - 6, 15);
     BendCursor_ = new HighlightShape("BendCursor", this);
     BendCursor_->setGeometry(cellAt(0, 0));

@@ -1,8 +1,9 @@
 #include "core/shell/document_commands.h"
 
+#include "core/code_page.h"
 #include "core/document_file.h"
-#include "core/shell/code_page_text.h"
 #include "editing/editor.h"
+#include "forms/code_page_text.h"
 
 #include <QFileInfo>
 
@@ -27,7 +28,8 @@ DocumentCommands::DocumentCommands(Document& document, Editor& editor, Services&
     : document_(document), editor_(editor), services_(services), words_(words), host_(std::move(host)) {}
 
 bool DocumentCommands::confirmLeaving() {
-    const QString question = fromCodePage(words_.saveQuestion + " " + document_.Title + "?");
+    const QString question =
+        QString::fromStdString(words_.saveQuestion) + " " + fromCodePage(document_.Title) + "?";
     const BoxAnswer answer = services_.boxes.ask(
         {QuestionTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}});
     if (answer == BoxAnswer::Yes) mnuFileSave();
@@ -44,6 +46,8 @@ bool DocumentCommands::askForName(FileQuestion::Kind kind) {
 void DocumentCommands::mnuFileNew() {
     if (!confirmLeaving()) return;
     editor_.MakeNewDocument();
+    editor_.refreshdrawing();
+    editor_.SetDebugLabel();
     host_.showFrmFileProperties();
 }
 
@@ -75,9 +79,11 @@ void DocumentCommands::readNamedDocument() {
     std::ifstream file(path, std::ios::binary);
     if (!file || std::filesystem::is_directory(path, failed)) return;
     editor_.MakeNewDocument();
-    if (!readDocument(document_, file)) return;
+    const bool whole = readDocument(document_, file);
+    host_.tracksReplaced();
+    if (!whole) return;
     editor_.refreshdrawing();
-    host_.setTrackPanel(document_.TrackNames.front() + " " + words_.selectedTrack);
+    host_.setTrackPanel(utf8FromCodePage(document_.TrackNames.front()) + " " + words_.selectedTrack);
     editor_.SetDebugLabel();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/document.h"
-#include "core/language_words.h"
+#include "core/language/language_words.h"
 #include "platform/services.h"
 
 #include <functional>
@@ -20,6 +20,8 @@ struct CommonDialog {
 struct DocumentCommandHost {
     std::function<bool(const QString& command)> isEnabled;
     std::function<void(const std::string& text)> setTrackPanel;
+    // Other tracks stand in the document now.
+    std::function<void()> tracksReplaced;
     // Shows the document's properties modally.
     std::function<void()> showFrmFileProperties;
 };

@@ -1,5 +1,8 @@
 #include "core/shell/frmAbout.h"
 
+#include "forms/captions.h"
+#include "forms/named.h"
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -8,7 +11,6 @@ namespace tabrova {
 
 frmAbout::frmAbout(Services& services, QWidget* parent) : QDialog(parent), services_(services) {
     setObjectName("frmAbout");
-    setWindowTitle("About Tabrova");
     auto* title = new QLabel("Tabrova", this);
     QFont large = title->font();
     large.setPointSizeF(large.pointSizeF() * 1.8);
@@ -16,22 +18,18 @@ frmAbout::frmAbout(Services& services, QWidget* parent) : QDialog(parent), servi
     title->setFont(large);
     auto* version = new QLabel("Version 3.0", this);
     version->setObjectName("lblVersion");
-    auto* credits = new QLabel("A workbench for guitarists: tablature, notation and sound.\n"
-                               "Written by the Tabrova developers, who play guitar too.",
-                               this);
-    credits->setObjectName("lblCredits");
-    auto* sequencer = new QLabel("<a href=\"author\">MIDI sequencer by the Tabrova developers</a>", this);
-    sequencer->setObjectName("lblSequencer");
+    auto* credits = named(new QLabel(this), "lblCredits");
+    credits->setWordWrap(true);
+    credits->setMinimumWidth(340);
+    auto* sequencer = named(new QLabel(this), "lblSequencer");
     sequencer->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(sequencer, &QLabel::linkActivated, this, [this] {
         services_.addresses.open(
             services_.settings.GetSetting("Installation", "AuthorPage", "https://tabrova.invalid/author"));
     });
-    auto* cmdSysInfo = new QPushButton("&System Info...", this);
-    cmdSysInfo->setObjectName("cmdSysInfo");
+    auto* cmdSysInfo = named(new QPushButton(this), "cmdSysInfo");
     cmdSysInfo->setAutoDefault(false);
-    auto* cmdOK = new QPushButton("OK", this);
-    cmdOK->setObjectName("cmdOK");
+    auto* cmdOK = named(new QPushButton(this), "cmdOK");
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdSysInfo, &QPushButton::clicked, this, [this] { startSystemInformationTool(); });
@@ -48,6 +46,9 @@ frmAbout::frmAbout(Services& services, QWidget* parent) : QDialog(parent), servi
     grid->addWidget(cmdOK, 5, 2);
     grid->setColumnStretch(0, 1);
     cmdOK->setFocus();
+    loadLanguage(*this, services_.programFolder, [sequencer](std::string_view, const QString& text) {
+        sequencer->setText("<a href=\"author\">" + text.toHtmlEscaped() + "</a>");
+    });
 }
 
 void frmAbout::startSystemInformationTool() {

@@ -1,5 +1,7 @@
 #include "core/shell/frmAltSplash.h"
 
+#include "forms/captions.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -16,15 +18,15 @@ constexpr int OptionGap = 22;
 constexpr int None = -1;
 
 struct Option {
-    const char* text;
+    const char* message; // that names it
     SplashChoice choice;
 };
 
 constexpr Option Options[] = {
-    {"Create a New Tablature...", SplashChoice::NewTablature},
-    {"Open a Saved Tablature...", SplashChoice::OpenTablature},
-    {"Learn to use Tabrova...", SplashChoice::Learn},
-    {"Close this Window", SplashChoice::CloseWindow},
+    {"create", SplashChoice::NewTablature},
+    {"open", SplashChoice::OpenTablature},
+    {"learn", SplashChoice::Learn},
+    {"close", SplashChoice::CloseWindow},
 };
 
 const QString DefaultTooltip = QStringLiteral("Tabrova 3.0");
@@ -90,8 +92,6 @@ class OptionImage : public QWidget {
   public:
     OptionImage(int index, QWidget* parent) : QWidget(parent), choice_(Options[index].choice) {
         setObjectName(QString("imgOptions(%1)").arg(index));
-        setAccessibleName(Options[index].text);
-        setToolTip(Options[index].text);
         setMouseTracking(true);
         setFocusPolicy(Qt::StrongFocus);
     }
@@ -136,7 +136,7 @@ void paintStrings(QPainter& painter) {
 
 } // namespace
 
-frmAltSplash::frmAltSplash(QWidget* parent) : QDialog(parent) {
+frmAltSplash::frmAltSplash(const std::filesystem::path& programFolder, QWidget* parent) : QDialog(parent) {
     setObjectName("frmAltSplash");
     setWindowTitle("Tabrova");
     setWindowModality(Qt::ApplicationModal);
@@ -159,6 +159,16 @@ frmAltSplash::frmAltSplash(QWidget* parent) : QDialog(parent) {
     lblTooltip_->setAlignment(Qt::AlignCenter);
     lblTooltip_->setStyleSheet("color: #F4EFE0; font-size: 15px");
     lblTooltip_->setGeometry(0, OptionTop + OptionSize + 24, PictureWidth, 30);
+    loadLanguage(*this, programFolder,
+                 [this](std::string_view name, const QString& text) { nameOption(name, text); });
+}
+
+void frmAltSplash::nameOption(std::string_view message, const QString& text) {
+    for (std::size_t index = 0; index < imgOptions_.size(); ++index) {
+        if (message != Options[index].message) continue;
+        imgOptions_[index]->setToolTip(text);
+        imgOptions_[index]->setAccessibleName(text);
+    }
 }
 
 void frmAltSplash::paintEvent(QPaintEvent*) {
@@ -179,7 +189,8 @@ void frmAltSplash::paintEvent(QPaintEvent*) {
 
 void frmAltSplash::highlight(int index) {
     imgHighlight_->setVisible(index != None);
-    lblTooltip_->setText(index == None ? DefaultTooltip : QString(Options[index].text));
+    lblTooltip_->setText(index == None ? DefaultTooltip
+                                       : imgOptions_[static_cast<std::size_t>(index)]->toolTip());
     if (index != None) imgHighlight_->setGeometry(imgOptions_[static_cast<std::size_t>(index)]->geometry());
 }
 

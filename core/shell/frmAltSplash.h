@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include <array>
+#include <filesystem>
 #include <functional>
 
 namespace tabrova {
@@ -14,7 +15,7 @@ enum class SplashChoice { NewTablature, OpenTablature, Learn, CloseWindow };
 
 class frmAltSplash : public QDialog {
   public:
-    explicit frmAltSplash(QWidget* parent);
+    frmAltSplash(const std::filesystem::path& programFolder, QWidget* parent);
 
     // Called once, for a click on an image, on the picture itself or for Escape.
     std::function<void(SplashChoice)> chosen;
@@ -27,6 +28,7 @@ class frmAltSplash : public QDialog {
 
   private:
     void highlight(int index);
+    void nameOption(std::string_view message, const QString& text);
     void choose(SplashChoice choice);
 
     std::array<QWidget*, 4> imgOptions_{};

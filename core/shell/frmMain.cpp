@@ -1,8 +1,8 @@
 #include "core/shell/frmMain.h"
 
 #include "core/document_operations.h"
-#include "core/shell/code_page_text.h"
 #include "core/shell/frmAbout.h"
+#include "forms/code_page_text.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -21,7 +21,7 @@ frmMain::frmMain(Services& services)
       editor_({document_, view_, sound_, *this, words_}),
       commands_(document_, editor_, services, words_,
                 {[this](const QString& name) { return menu_->action(name)->isEnabled(); },
-                 [this](const std::string& text) { setTrackPanel(text); },
+                 [this](const std::string& text) { setTrackPanel(text); }, [this] { tracksReplaced(); },
                  [this] { showFrmFileProperties(); }}) {
     setObjectName("frmMain");
     setWindowTitle("Tabrova - untitled.tr3");
@@ -31,7 +31,10 @@ frmMain::frmMain(Services& services)
     connectPage();
     connectMenus();
     connectViews();
+    connectTracks();
     makeTimers();
+    loadInstruments();
+    showBuiltInLanguage();
     client_->installEventFilter(this);
 }
 
@@ -46,6 +49,7 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     editor_.MakeNewDocument();
     document_.Tempo = DefaultTempo;
     document_.TuningTable.assign(StringsPerTrack, StandardTuning);
+    instruments_->showProgram(StartProgram);
     loaded_ = true;
     menu_->action("mnuViewNotation")->trigger();
     // Only now the staves that the page shows are known, and with them its height.
@@ -60,25 +64,20 @@ void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     focusPage();
 }
 
-// The lines of the active language replace the built-in captions and words, when there is a reader for them.
-void frmMain::LoadLanguage() {}
-
 // The options open the device that the user has chosen, and stay loaded.
 void frmMain::loadFrmOptions() {
     options_ = new frmOptions(services_, *this, this);
     options_->Form_Load();
 }
 
-void frmMain::showOptions() {
+void frmMain::showOptions(OptionsTab tab) {
+    options_->showTab(tab);
     options_->show();
     options_->raise();
     options_->activateWindow();
 }
 
 void frmMain::showFrmHelp() { menu_->action("mnuHelpContents")->trigger(); }
-
-// The document's properties, when there is a window for them; its closing redraws.
-void frmMain::showFrmFileProperties() { editor_.refreshdrawing(); }
 
 // The list of drums, when there is a window for it, on a percussion track.
 void frmMain::showFrmPercussion() {}
@@ -102,6 +101,7 @@ void frmMain::ToggleMenus(bool enabled) {
                              "mnuHelp", "mnuSoundPlayAll", "mnuPlayFromHere"})
         menu_->setEnabled(name, enabled);
     statusBar_->setEnabled(enabled);
+    trackChooser_->setEnabled(enabled);
     toolbar_->setAllButStopEnabled(enabled);
     if (!enabled) return;
     focusPage();
@@ -138,6 +138,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
     StopTimer();
     sound_.AllNotesOff();
     splash_.clear();
+    unloadFileProperties();
+    delete trackProperties_;
+    delete instruments_;
+    instruments_ = nullptr;
     delete options_;
     options_ = nullptr;
     sound_.CloseMidiDevice();
@@ -152,7 +156,7 @@ void frmMain::showAbout() {
 }
 
 void frmMain::showSplash() {
-    splash_ = new frmAltSplash(this);
+    splash_ = new frmAltSplash(services_.programFolder, this);
     splash_->setAttribute(Qt::WA_DeleteOnClose);
     splash_->chosen = [this](SplashChoice choice) { runSplashChoice(choice); };
     splash_->show();
@@ -164,6 +168,7 @@ void frmMain::runSplashChoice(SplashChoice choice) {
     switch (choice) {
     case SplashChoice::NewTablature:
         editor_.MakeNewDocument();
+        editor_.refreshdrawing();
         showFrmFileProperties();
         break;
     case SplashChoice::OpenTablature:

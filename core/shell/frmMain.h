@@ -2,8 +2,9 @@
 // commands. It composes and shows; what is decided is decided in the rooms below.
 #pragma once
 
+#include "core/code_page.h"
 #include "core/document.h"
-#include "core/language_words.h"
+#include "core/language/language_words.h"
 #include "core/shell/bend_panel.h"
 #include "core/shell/document_commands.h"
 #include "core/shell/fretboard_widget.h"
@@ -11,11 +12,16 @@
 #include "core/shell/main_menu.h"
 #include "core/shell/note_selector.h"
 #include "core/shell/page_widget.h"
+#include "core/shell/properties/frmFileProperties.h"
+#include "core/shell/properties/frmInstrumentSelector.h"
+#include "core/shell/properties/frmTrackProperties.h"
 #include "core/shell/repeat_panel.h"
 #include "core/shell/status_bar.h"
 #include "core/shell/toolbar.h"
+#include "core/shell/track_chooser.h"
 #include "core/shell/window_layout.h"
 #include "editing/editor.h"
+#include "forms/captions.h"
 #include "organisers/options/frmOptions.h"
 #include "platform/services.h"
 #include "sound/hi_pre_timer.h"
@@ -27,7 +33,7 @@
 
 namespace tabrova {
 
-class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
+class frmMain : public QMainWindow, private EditorHost, private OptionsHost, private PropertiesHost {
   public:
     explicit frmMain(Services& services);
     ~frmMain() override;
@@ -40,6 +46,12 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void ToggleMenus(bool enabled);
     // Size of the client area: all below the menu bar.
     void resizeClient(int width, int height);
+
+    // The current track's strings, from the lowest to the highest, 13 being standard.
+    void assignTuning(std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4, std::int16_t s5,
+                      std::int16_t s6);
+    // The File menu's caption becomes the first line of a file among the installed languages.
+    void ApplyLanguagePatch(const QString& name);
 
     Document& document() override { return document_; }
     Editor& editor() { return editor_; }
@@ -72,6 +84,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void focusPage() override;
     void restartSoundStopper(std::optional<int> milliseconds) override;
     void unloadFileProperties() override;
+    void tracksReplaced() override;
     bool confirmClearingOnlyStaff() override;
     bool debugMode() const override { return debugMode_; }
     bool playing() const override { return Hitime1_->Enabled(); }
@@ -85,6 +98,17 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void showStatistics(bool shown) override;
     void setDebugMode(bool on) override;
     void silenceAfter(int milliseconds) override { restartSoundStopper(milliseconds); }
+    void languageApplied() override;
+
+    void refreshdrawing() override { editor_.refreshdrawing(); }
+    const LanguageWords& words() const override { return words_; }
+    void showTracks() override;
+    void selectTrack(int row) override;
+    QString instrumentName(int program) const override;
+    void openInstrumentSelector(QWidget* from) override;
+    void openTuningManager() override;
+    bool hasTuningManager() const override;
+    void fileProperties_Closed() override;
 
     void buildPanels();
     void connectPanels();
@@ -95,9 +119,20 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     void runToolbarWord(const QString& word);
     void chooseMode(bool powerChord);
     void connectPage();
+    MessageSink messageSink();
+    void showBuiltInLanguage();
     void LoadLanguage();
     void loadFrmOptions();
-    void showOptions();
+    void showOptions(OptionsTab tab);
+    void connectTracks();
+    void loadInstruments();
+    void AddTrack();
+    void mnuKillTrack();
+    void mnuChoose();
+    void mnuTrackProps();
+    void TrackNames_Click(int row);
+    std::string currentTrackName() const; // UTF-8
+    frmFileProperties& loadFrmFileProperties();
     void makeTimers();
     void play(PlayFrom from);
     void mnuPlaybackStop();
@@ -147,11 +182,14 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost {
     BendPanel* bendPanel_ = nullptr;
     RepeatPanel* repeatPanel_ = nullptr;
     StatusBar* statusBar_ = nullptr;
-    QFrame* trackChooser_ = nullptr;
+    TrackChooser* trackChooser_ = nullptr;
     QLabel* lbldebug_ = nullptr;
     WindowTimer* tmrsndStopper_ = nullptr;
     ctlHiPreTimer* Hitime1_ = nullptr;
     frmOptions* options_ = nullptr;
+    frmInstrumentSelector* instruments_ = nullptr;
+    frmFileProperties* fileProperties_ = nullptr;
+    QPointer<frmTrackProperties> trackProperties_;
     QPointer<frmAltSplash> splash_;
 };
 

@@ -17,7 +17,7 @@ void frmMain::connectMenus() {
     menu_->connectItem("mnuIntelligent",
                        [this] { editor_.modes.intelligent = menu_->isChecked("mnuIntelligent"); });
     menu_->connectItem("mnuViewRefresh", [this] { editor_.refreshdrawing(); });
-    menu_->connectItem("mnuToolsOptions", [this] { showOptions(); });
+    menu_->connectItem("mnuToolsOptions", [this] { showOptions(OptionsTab::Sound); });
     menu_->connectItem("mnuSoundPlayAll", [this] { play(PlayFrom::Start); });
     menu_->connectItem("mnuPlayFromHere", [this] { play(PlayFrom::Cursor); });
     menu_->connectItem("mnuPlaybackStop", [this] { mnuPlaybackStop(); });

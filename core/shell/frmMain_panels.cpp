@@ -1,11 +1,11 @@
 // The main window's panels and menus: how they are made, placed and connected, and what the editor asks of
 // them.
 #include "core/document_operations.h"
-#include "core/shell/code_page_text.h"
 #include "core/shell/frmMain.h"
 #include "core/shell/key_mapping.h"
 #include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
+#include "forms/code_page_text.h"
 
 #include <QPainter>
 #include <QPushButton>
@@ -38,13 +38,7 @@ void frmMain::buildPanels() {
     noteSelector_ = new NoteSelector(page_);
     bendPanel_ = new BendPanel(client_);
     repeatPanel_ = new RepeatPanel(client_);
-    trackChooser_ = new QFrame(client_);
-    trackChooser_->setObjectName("picTrackChooser");
-    trackChooser_->setFrameShape(QFrame::StyledPanel);
-    auto* Command1 = new QPushButton("Close", trackChooser_);
-    Command1->setObjectName("Command1");
-    Command1->move(8, layout_.picTrackChooser.height - 34);
-    connect(Command1, &QPushButton::clicked, this, [this] { closePanel(*trackChooser_); });
+    trackChooser_ = new TrackChooser(client_);
     auto* title = new QLabel("Track: Untitled Track", strip_);
     title->setObjectName("lblNotationTitle");
     // The strip is white paper in every theme.
@@ -52,8 +46,8 @@ void frmMain::buildPanels() {
     title->move(16, 4);
     title->adjustSize();
     editor_.page().noteLineColor = palette().color(QPalette::Highlight).rgb();
-    for (QWidget* hidden : {static_cast<QWidget*>(lbldebug_), static_cast<QWidget*>(fretboard_),
-                            static_cast<QWidget*>(strip_), static_cast<QWidget*>(trackChooser_)})
+    for (QWidget* hidden :
+         {static_cast<QWidget*>(lbldebug_), static_cast<QWidget*>(fretboard_), static_cast<QWidget*>(strip_)})
         hidden->hide();
 }
 
@@ -155,9 +149,11 @@ void frmMain::mirrorScrollBar(int maximum, int value) {
 
 void frmMain::setTitle(const std::string& title) { setWindowTitle(fromCodePage(title)); }
 
-void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(fromCodePage(text)); }
+void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(QString::fromStdString(text)); }
 
-void frmMain::setTrackPanel(const std::string& text) { statusBar_->setTrackPanel(fromCodePage(text)); }
+void frmMain::setTrackPanel(const std::string& text) {
+    statusBar_->setTrackPanel(QString::fromStdString(text));
+}
 
 void frmMain::UpdateTechniqueButtons(bool guitarTrack) {
     // During playback all of them stay off.
@@ -227,11 +223,9 @@ void frmMain::restartSoundStopper(std::optional<int> milliseconds) {
     tmrsndStopper_->setEnabled(true);
 }
 
-void frmMain::unloadFileProperties() {}
-
 bool frmMain::confirmClearingOnlyStaff() {
     const BoxAnswer answer = services_.boxes.ask({"Tabrova for Windows",
-                                                  fromCodePage(words_.clearOnlyStaffQuestion),
+                                                  QString::fromStdString(words_.clearOnlyStaffQuestion),
                                                   BoxIcon::Information,
                                                   {BoxAnswer::Yes, BoxAnswer::No}});
     return answer == BoxAnswer::Yes;

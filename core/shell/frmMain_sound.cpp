@@ -34,7 +34,7 @@ void frmMain::makeTimers() {
 
 // A tempo that gives no interval starts nothing.
 void frmMain::play(PlayFrom from) {
-    const auto interval = playbackInterval(document_);
+    const auto interval = playbackInterval(document_.Tempo, loadFrmFileProperties().speedBoost());
     if (!interval) return;
     ToggleMenus(false);
     if (from == PlayFrom::Cursor) GetCurrentXPosition(document_);

@@ -1,4 +1,5 @@
-// The main window's menus: one table of names, captions, places and shortcuts, and the bar built from it.
+// The main window's menus: one table of names, places and shortcuts, and the bar built from it. The
+// captions come from the language lines.
 #pragma once
 
 #include <QAction>

@@ -3,6 +3,7 @@
 #include "editing/fret_palette.h"
 
 #include <QFontMetrics>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
@@ -31,10 +32,16 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedP
     setFixedSize(PaletteWidth, PaletteHeight);
     shpNoteSelector_ = new HighlightShape("shpNoteSelector", this);
     moveHighlight(ParkedPaletteHighlight);
+    auto* title = new QLabel(this);
+    title->setObjectName("lblToolTip2(3)");
+    title->setAttribute(Qt::WA_TransparentForMouseEvents);
+    QFont small = title->font();
+    small.setPixelSize(11);
+    title->setFont(small);
+    title->setGeometry(1, 2, PaletteWidth - 24, 15);
     auto* close = new QToolButton(this);
     close->setObjectName("Image1");
     close->setText(QStringLiteral("\u00D7"));
-    close->setToolTip(tr("Close"));
     close->setAutoRaise(true);
     close->setFocusPolicy(Qt::NoFocus);
     close->setGeometry(PaletteWidth - 20, 2, 18, 16);

@@ -12,8 +12,8 @@ namespace {
 constexpr int PanelWidth = 170;
 constexpr int PanelHeight = 62;
 
-QLabel* addLabel(const char* name, const QString& text, const QRect& place, QWidget* panel) {
-    auto* label = new QLabel(text, panel);
+QLabel* addLabel(const char* name, const QRect& place, QWidget* panel) {
+    auto* label = new QLabel(panel);
     label->setObjectName(name);
     QFont small = label->font();
     small.setPixelSize(11);
@@ -51,10 +51,11 @@ RepeatPanel::RepeatPanel(QWidget* parent) : QFrame(parent), scroller_(new Repeat
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     setFixedSize(PanelWidth, PanelHeight);
-    addLabel("lblRepeatTitle", " Times to Repeat:", {1, 2, 110, 15}, this);
-    lblRepeatTimes_ = addLabel("lblRepeatTimes", "1", {120, 2, 40, 15}, this);
+    addLabel("lblToolTip2(0)", {1, 2, 130, 15}, this);
+    lblRepeatTimes_ = addLabel("lblRepeatTimes", {132, 2, 28, 15}, this);
     lblRepeatTimes_->setAlignment(Qt::AlignRight);
-    addLabel("lblRepeatHint", "Use Arrow Keys to Change", {4, 43, PanelWidth - 6, 15}, this);
+    lblRepeatTimes_->setText("1");
+    addLabel("lblToolTip2(1)", {4, 43, PanelWidth - 6, 15}, this);
     scroller_->setGeometry(6, 22, PanelWidth - 12, 16);
     connect(scroller_, &QScrollBar::valueChanged, this,
             [this](int value) { lblRepeatTimes_->setText(QString::number(value)); });

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMouseEvent>
 
 namespace tabrova {
 
@@ -11,6 +12,7 @@ QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
     auto* panel = new QLabel(bar);
     panel->setObjectName(name);
     panel->setTextFormat(Qt::PlainText);
+    panel->setCursor(Qt::PointingHandCursor);
     panel->setMinimumWidth(0);
     panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bar->layout())->addWidget(panel, stretch);
@@ -27,9 +29,11 @@ StatusBar::StatusBar(QWidget* parent) : QFrame(parent) {
     hint_ = addPanel("StatusBar1(2)", 3, this);
 }
 
-void StatusBar::setTrackPanel(const QString& text) {
-    track_->setText(text);
-    track_->setToolTip(text);
+void StatusBar::setTrackPanel(const QString& text) { track_->setText(text); }
+
+void StatusBar::mousePressEvent(QMouseEvent* event) {
+    const auto& clicked = event->position().x() < hint_->x() ? trackPanelClicked : optionsPanelClicked;
+    if (clicked) clicked();
 }
 
 QString StatusBar::trackPanel() const { return track_->text(); }

@@ -3,6 +3,8 @@
 
 #include <QFrame>
 
+#include <functional>
+
 class QLabel;
 
 namespace tabrova {
@@ -13,6 +15,13 @@ class StatusBar : public QFrame {
 
     void setTrackPanel(const QString& text);
     QString trackPanel() const;
+
+    std::function<void()> trackPanelClicked;
+    std::function<void()> optionsPanelClicked;
+
+  protected:
+    // A click between the panels counts for the one that stands there.
+    void mousePressEvent(QMouseEvent* event) override;
 
   private:
     QLabel* track_;

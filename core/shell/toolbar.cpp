@@ -19,46 +19,46 @@ constexpr int ButtonSize = 22;
 
 struct Place {
     const char* word; // "" for a separator
-    const char* hint;
+    const char* key;  // that does the same; "" for none
     bool shown = true;
 };
 
 constexpr Place Places[] = {
-    {"new", "New (Ctrl+N)"},
-    {"open", "Open (Ctrl+O)"},
-    {"save", "Save (Ctrl+S)"},
-    {"print", "Print (Ctrl+P)"},
-    {"printpreview", "Print Preview", false}, // the word has no command: it keeps its place, unseen
-    {"properties", "Properties"},
+    {"new", "Ctrl+N"},
+    {"open", "Ctrl+O"},
+    {"save", "Ctrl+S"},
+    {"print", "Ctrl+P"},
+    {"printpreview", "", false}, // the word has no command: it keeps its place, unseen
+    {"properties", ""},
     {"", ""},
-    {"playall", "Play (F7)"},
-    {"playfromhere", "Play From Here (F8)"},
-    {"stop", "Stop (F9)"},
-    {"tr3", "Check for New Version"},
+    {"playall", "F7"},
+    {"playfromhere", "F8"},
+    {"stop", "F9"},
+    {"tr3", ""},
     {"", ""},
-    {"bend", "Bend (B)"},
-    {"hammer", "Hammer-on or Pull-off (H)"},
-    {"slide", "Slide (S)"},
-    {"vibrato", "Vibrato (V)"},
-    {"whammy", "Whammy Bar (W)"},
-    {"dive", "Dive (D)"},
-    {"ghostnote", "Ghost Note (G)"},
-    {"harmonic", "Harmonic (M)"},
-    {"fade", "Fade In (F)"},
-    {"tap", "Tap (T)"},
-    {"slap", "Slap (L)"},
-    {"pop", "Pop (O)"},
-    {"ring", "Let Ring (R)"},
-    {"dead", "Dead Note (X)"},
-    {"staccato", "Staccato (Z)"},
-    {"jump", "Jump (J)"},
+    {"bend", "B"},
+    {"hammer", "H"},
+    {"slide", "S"},
+    {"vibrato", "V"},
+    {"whammy", "W"},
+    {"dive", "D"},
+    {"ghostnote", "G"},
+    {"harmonic", "M"},
+    {"fade", "F"},
+    {"tap", "T"},
+    {"slap", "L"},
+    {"pop", "O"},
+    {"ring", "R"},
+    {"dead", "X"},
+    {"staccato", "Z"},
+    {"jump", "J"},
     {"", ""},
-    {"wholenote", "Whole Note: 16 Columns"},
-    {"halfnote", "Half Note: 8 Columns"},
-    {"triplet", "Triplet: 3 Columns"},
-    {"quarternote", "Quarter Note: 4 Columns"},
-    {"eighthnote", "Eighth Note: 2 Columns"},
-    {"sixteenthnote", "Sixteenth Note: 1 Column"},
+    {"wholenote", ""},
+    {"halfnote", ""},
+    {"triplet", ""},
+    {"quarternote", ""},
+    {"eighthnote", ""},
+    {"sixteenthnote", ""},
 };
 
 } // namespace
@@ -72,20 +72,19 @@ Toolbar::Toolbar(QWidget* parent) : QWidget(parent) {
         if (*place.word == '\0') {
             addSeparator();
         } else {
-            addButton(place.word, place.hint);
+            addButton(place.word, place.key);
         }
         if (!place.shown) places_.last()->hide();
     }
     row->addStretch();
 }
 
-void Toolbar::addButton(const QString& word, const QString& hint) {
+void Toolbar::addButton(const QString& word, const QString& key) {
     auto* button = new QToolButton(this);
     button->setObjectName("Toolbar1(" + word + ")");
     button->setIcon(toolbarIcon(word));
     button->setIconSize({IconSize, IconSize});
-    button->setToolTip(hint);
-    button->setAccessibleName(hint);
+    button->setProperty("key", key);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setFixedSize(ButtonSize, ButtonSize);

@@ -25,7 +25,7 @@ class Toolbar : public QWidget {
     void UpdateTechniqueButtons(bool guitarTrack);
 
   private:
-    void addButton(const QString& word, const QString& hint);
+    void addButton(const QString& word, const QString& key);
     void addSeparator();
 
     QList<QToolButton*> places_; // from place 1 on; null for a separator

@@ -1,5 +1,6 @@
 #include "organisers/options/frmOptions.h"
 
+#include "forms/captions.h"
 #include "sound/pitch.h"
 
 #include <QCheckBox>
@@ -27,6 +28,7 @@ constexpr std::array TestFrets = {0, 0, 1, 2, 2, 0}; // E major, string 0 to 5
 frmOptions::~frmOptions() { services_.synthesizer.changed = nullptr; }
 
 void frmOptions::Form_Load() {
+    showBuiltInCaptions(*this, messageSink());
     LoadLanguage();
     chkSplash_->setChecked(services_.settings.GetSetting(Section, SplashFlag, "1") == "1");
     const auto mode = static_cast<std::size_t>(host_.document().RealtimeMode);
@@ -46,26 +48,22 @@ void frmOptions::Form_Load() {
     showSynthesizer();
 }
 
-void frmOptions::LoadLanguage() {
-    setWindowTitle("Options");
-    devicesLabel_->setText("Output Device:");
-    realtimeModes_[0]->setText("Play Notes on All Tracks during Editing");
-    realtimeModes_[1]->setText("Don't Play Notes during Editing");
-    realtimeModes_[2]->setText("Play Notes on Current Track Only during Editing");
-    colorsLabel_->setText("Color of Cursor:");
-    chkEyeBall_->setText("Make Cursor Stand Out");
-    chkTABOUT_->setText("Make Tab One Color");
-    chkStats_->setText("Show Statistics");
-    chkSplash_->setText("Show Splash Screen");
-    Check1_->setText("Show lines with cursor on tablature");
-    Check2_->setText("Debug Mode");
-    languagesLabel_->setText("Installed Languages: (Double Click to Apply)");
+void frmOptions::LoadLanguage() { readLanguage(*this, services_.programFolder, messageSink()); }
+
+MessageSink frmOptions::messageSink() {
+    return [this](std::string_view name, const QString& text) {
+        if (name == "loading") loading_ = text;
+        if (name == "none") none_ = text;
+        if (name == "notInUse") notInUse_ = text;
+    };
 }
+
+void frmOptions::showTab(OptionsTab tab) { OptionsTabs_->setCurrentIndex(static_cast<int>(tab)); }
 
 void frmOptions::listLanguages() {
     namespace fs = std::filesystem;
     std::error_code failed;
-    const fs::path folder = services_.programFolder / "languages";
+    const fs::path folder = installedLanguages(services_.programFolder);
     fs::create_directory(folder, failed);
     QStringList names;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
@@ -77,6 +75,21 @@ void frmOptions::listLanguages() {
     names.sort(Qt::CaseInsensitive);
     lstLanguages_->clear();
     lstLanguages_->addItems(names);
+}
+
+// The active language goes even if no other one can take its place.
+void frmOptions::lstLanguages_DblClick() {
+    const QListWidgetItem* row = lstLanguages_->currentItem();
+    if (!row) return;
+    std::error_code failed;
+    const std::filesystem::path active = activeLanguageFile(services_.programFolder);
+    std::filesystem::remove(active, failed);
+    std::filesystem::copy_file(installedLanguages(services_.programFolder) / row->text().toStdU16String() /
+                                   "lang.trl",
+                               active, std::filesystem::copy_options::overwrite_existing, failed);
+    LoadLanguage();
+    showSynthesizer();
+    host_.languageApplied();
 }
 
 // A position that is not there any more leaves nothing chosen: what is sent is dropped until the user
@@ -117,6 +130,7 @@ void frmOptions::connectSound() {
 }
 
 void frmOptions::connectAppearance() {
+    lstLanguages_->DoubleClick = [this] { lstLanguages_DblClick(); };
     lstColors_->Click = [this] { lstColors_Click(); };
     connect(chkEyeBall_, &QCheckBox::toggled, this,
             [this](bool standsOut) { host_.setCursorBorderWidth(standsOut ? 2 : 1); });
@@ -153,7 +167,7 @@ void frmOptions::testSound() {
 
 void frmOptions::showSynthesizer() {
     const SynthesizerState state = services_.synthesizer.state();
-    const QString nothing = state.loading ? "loading..." : state.running ? "none" : "not in use";
+    const QString nothing = state.loading ? loading_ : state.running ? none_ : notInUse_;
     lblSoundBank_->setText(state.bank.isEmpty() ? nothing : QFileInfo(state.bank).fileName());
     lblSoundBank_->setToolTip(state.bank);
     lblAudioOutput_->setText(state.output.isEmpty() ? nothing : state.output);

@@ -3,6 +3,7 @@
 // Settings take effect at once.
 #pragma once
 
+#include "forms/captions.h"
 #include "organisers/options/options_host.h"
 #include "organisers/options/options_rules.h"
 #include "platform/list_box.h"
@@ -19,6 +20,8 @@ class QTabWidget;
 
 namespace tabrova {
 
+enum class OptionsTab { Sound, Appearance };
+
 class frmOptions : public QDialog {
   public:
     frmOptions(Services& services, OptionsHost& host, QWidget* parent);
@@ -27,6 +30,7 @@ class frmOptions : public QDialog {
     // Fills every control from the settings and the main window, and opens the stored device.
     void Form_Load();
     void LoadLanguage();
+    void showTab(OptionsTab tab);
 
   private:
     QWidget* buildSoundTab();
@@ -36,9 +40,11 @@ class frmOptions : public QDialog {
     void connectSound();
     void connectAppearance();
 
+    MessageSink messageSink();
     void listLanguages();
     void chooseStoredDevice();
     void lst_Devices_Click();
+    void lstLanguages_DblClick();
     void lstColors_Click();
     void chooseBank();
     void testSound();
@@ -47,9 +53,10 @@ class frmOptions : public QDialog {
     Services& services_;
     OptionsHost& host_;
     DeviceClicks deviceClicks_;
+    // What the synthesizer's labels say when there is nothing to name.
+    QString loading_, none_, notInUse_;
 
     QTabWidget* OptionsTabs_;
-    QLabel* devicesLabel_;
     ListBox* lst_Devices_;
     QLabel* lblDeviceGone_;
     QLabel* lblSoundBank_;
@@ -58,7 +65,6 @@ class frmOptions : public QDialog {
     QPushButton* cmdSoundBank_;
     QPushButton* cmdTestSound_;
     std::array<QRadioButton*, 3> realtimeModes_; // by RealtimeMode
-    QLabel* colorsLabel_;
     ListBox* lstColors_;
     QCheckBox* chkEyeBall_;
     QCheckBox* chkTABOUT_;
@@ -66,7 +72,6 @@ class frmOptions : public QDialog {
     QCheckBox* chkSplash_;
     QCheckBox* Check1_;
     QCheckBox* Check2_;
-    QLabel* languagesLabel_;
     ListBox* lstLanguages_;
 };
 

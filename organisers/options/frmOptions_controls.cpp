@@ -1,6 +1,8 @@
 // How the options' controls are made and placed.
 #include "organisers/options/frmOptions.h"
 
+#include "forms/named.h"
+
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QFormLayout>
@@ -19,12 +21,6 @@ namespace {
 constexpr int Swatch = 12; // pixels
 constexpr int Gap = 12;
 
-template <class Control>
-Control* named(Control* control, const char* name) {
-    control->setObjectName(name);
-    return control;
-}
-
 QIcon swatch(QRgb color) {
     QPixmap picture(Swatch * 2, Swatch * 2);
     picture.setDevicePixelRatio(2);
@@ -37,20 +33,14 @@ QIcon swatch(QRgb color) {
     return QIcon(picture);
 }
 
-QLabel* labelOf(QWidget* control, const char* name, QWidget* parent) {
-    auto* label = named(new QLabel(parent), name);
-    label->setBuddy(control);
-    return label;
-}
-
 } // namespace
 
 frmOptions::frmOptions(Services& services, OptionsHost& host, QWidget* parent)
     : QDialog(parent), services_(services), host_(host) {
     setObjectName("frmOptions");
     OptionsTabs_ = named(new QTabWidget(this), "OptionsTabs");
-    OptionsTabs_->addTab(buildSoundTab(), "Sound");
-    OptionsTabs_->addTab(buildAppearanceTab(), "Appearance");
+    OptionsTabs_->addTab(buildSoundTab(), QString());
+    OptionsTabs_->addTab(buildAppearanceTab(), QString());
     auto* column = new QVBoxLayout(this);
     column->addWidget(OptionsTabs_);
     resize(480, 470);
@@ -60,16 +50,12 @@ QWidget* frmOptions::buildSoundTab() {
     auto* tab = new QWidget(this);
     lst_Devices_ = new ListBox("lst_Devices", tab);
     lst_Devices_->setMinimumHeight(90);
-    devicesLabel_ = labelOf(lst_Devices_, "lblDevices", tab);
     lblDeviceGone_ = named(new QLabel(tab), "lblDeviceGone");
-    lblDeviceGone_->setText(
-        "The output device that was chosen is gone. Choose another one: until then nothing "
-        "can be heard.");
     lblDeviceGone_->setWordWrap(true);
     constexpr std::array names = {"PlayAllTracks", "PlayNone", "PlayCurrentTrack"};
     auto* column = new QVBoxLayout(tab);
     column->setContentsMargins(Gap, Gap, Gap, Gap);
-    column->addWidget(devicesLabel_);
+    column->addWidget(labelOf(lst_Devices_, "lblDevices", tab));
     column->addWidget(lst_Devices_, 1);
     column->addWidget(lblDeviceGone_);
     column->addWidget(buildSynthesizerBox());
@@ -82,7 +68,7 @@ QWidget* frmOptions::buildSoundTab() {
 }
 
 QGroupBox* frmOptions::buildSynthesizerBox() {
-    auto* box = new QGroupBox("Built-in Synthesizer", this);
+    auto* box = named(new QGroupBox(this), "grpSynthesizer");
     lblSoundBank_ = named(new QLabel(box), "lblSoundBank");
     lblAudioOutput_ = named(new QLabel(box), "lblAudioOutput");
     lblSoundTrouble_ = named(new QLabel(box), "lblSoundTrouble");
@@ -90,17 +76,15 @@ QGroupBox* frmOptions::buildSynthesizerBox() {
     for (QLabel* label : {lblSoundBank_, lblAudioOutput_, lblSoundTrouble_})
         label->setTextFormat(Qt::PlainText);
     lblSoundBank_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    cmdSoundBank_ = named(new QPushButton("Choose...", box), "cmdSoundBank");
-    cmdSoundBank_->setToolTip("Choose another sound bank (SF2 or SF3)");
-    cmdTestSound_ = named(new QPushButton("Test", box), "cmdTestSound");
-    cmdTestSound_->setToolTip("Play a chord on the output device");
+    cmdSoundBank_ = named(new QPushButton(box), "cmdSoundBank");
+    cmdTestSound_ = named(new QPushButton(box), "cmdTestSound");
     for (QPushButton* button : {cmdSoundBank_, cmdTestSound_})
         button->setAutoDefault(false);
     auto* grid = new QGridLayout(box);
-    grid->addWidget(new QLabel("Sound bank:", box), 0, 0);
+    grid->addWidget(named(new QLabel(box), "lblBankTitle"), 0, 0);
     grid->addWidget(lblSoundBank_, 0, 1);
     grid->addWidget(cmdSoundBank_, 0, 2);
-    grid->addWidget(new QLabel("Audio output:", box), 1, 0);
+    grid->addWidget(named(new QLabel(box), "lblOutputTitle"), 1, 0);
     grid->addWidget(lblAudioOutput_, 1, 1);
     grid->addWidget(cmdTestSound_, 1, 2);
     grid->addWidget(lblSoundTrouble_, 2, 0, 1, 3);
@@ -112,7 +96,6 @@ QGroupBox* frmOptions::buildSynthesizerBox() {
 QWidget* frmOptions::buildAppearanceTab() {
     auto* tab = new QWidget(this);
     lstLanguages_ = new ListBox("lstLanguages", tab);
-    languagesLabel_ = labelOf(lstLanguages_, "lblLanguages", tab);
     chkStats_ = named(new QCheckBox(tab), "chkStats");
     chkSplash_ = named(new QCheckBox(tab), "chkSplash");
     Check2_ = named(new QCheckBox(tab), "Check2");
@@ -124,7 +107,7 @@ QWidget* frmOptions::buildAppearanceTab() {
     for (QCheckBox* box : {chkStats_, chkSplash_, Check2_})
         column->addWidget(box);
     column->addSpacing(Gap / 2);
-    column->addWidget(languagesLabel_);
+    column->addWidget(labelOf(lstLanguages_, "lblLanguages", tab));
     column->addWidget(lstLanguages_, 1);
     return tab;
 }
@@ -136,16 +119,17 @@ QWidget* frmOptions::buildCursorBox() {
     for (const CursorColorRow& row : CursorColors)
         lstColors_->addItem(new QListWidgetItem(swatch(cursorColor(row, highlight)), row.name));
     lstColors_->setIconSize({Swatch, Swatch});
+    constexpr int RowMargins = 12;
+    lstColors_->setMinimumWidth(lstColors_->sizeHintForColumn(0) + 2 * lstColors_->frameWidth() + RowMargins);
     lstColors_->setFixedHeight(static_cast<int>(CursorColors.size()) * lstColors_->sizeHintForRow(0) +
                                2 * lstColors_->frameWidth());
-    colorsLabel_ = labelOf(lstColors_, "lblColors", box);
     chkEyeBall_ = named(new QCheckBox(box), "chkEyeBall");
     chkTABOUT_ = named(new QCheckBox(box), "chkTABOUT");
     Check1_ = named(new QCheckBox(box), "Check1");
     auto* grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(2 * Gap);
-    grid->addWidget(colorsLabel_, 0, 0);
+    grid->addWidget(labelOf(lstColors_, "lblColors", box), 0, 0);
     grid->addWidget(lstColors_, 1, 0, 4, 1);
     grid->addWidget(chkEyeBall_, 1, 1);
     grid->addWidget(chkTABOUT_, 2, 1);

@@ -23,6 +23,8 @@ class OptionsHost {
     virtual void setTabOneColor(bool oneColor) = 0;
     virtual void showStatistics(bool shown) = 0;
     virtual void setDebugMode(bool on) = 0;
+    // Another language file is the active one: the main window reads it.
+    virtual void languageApplied() = 0;
     // What sounds now is silenced after this time.
     virtual void silenceAfter(int milliseconds) = 0;
 };

@@ -23,7 +23,8 @@ TEST_F(ProgramOptions, AreLoadedAtTheStartAndShownByTheirCommand) {
     EXPECT_EQ(drive.forms("visible"), (std::vector<std::string>{"frmMain", "frmOptions"}));
     drive.ok("press frmOptions Escape");
     EXPECT_EQ(drive.forms("visible"), std::vector<std::string>{"frmMain"});
-    EXPECT_EQ(drive.forms("forms").size(), 2u);
+    EXPECT_EQ(drive.forms("forms"),
+              (std::vector<std::string>{"frmInstrumentSelector", "frmMain", "frmOptions"}));
 }
 
 TEST_F(ProgramOptions, ColorTheCursorOnPageAndStrip) {

@@ -140,6 +140,7 @@ TEST_F(ToolbarButtons, OnAPercussionTrackLeaveTheGhostNoteAlone) {
         EXPECT_EQ(enabled(Words[at]), Words[at] == "ghostnote") << Words[at].toStdString();
     drive.ok("answer no");
     drive.ok("do mnuFileNew");
+    drive.ok("click frmFileProperties.Command1");
     for (qsizetype at = Words.indexOf("bend"); at <= Words.indexOf("jump"); ++at)
         EXPECT_TRUE(enabled(Words[at])) << Words[at].toStdString();
 }

@@ -279,7 +279,7 @@ TEST_F(Cursor, ANewDocumentPutsEverythingHome) {
     keys({key::Down, '5'});
     editor.MakeNewDocument();
     expectAt(1, 0, 0, 0);
-    EXPECT_EQ(host.trackPanel, "Untitled Track selected");
+    EXPECT_EQ(host.trackPanel, "Untitled Track selected (Click here to change)");
     EXPECT_EQ(host.unloaded, 2); // once at the start of this test
     EXPECT_EQ(document.StaffCount, 1);
 }

@@ -62,6 +62,7 @@ class FakeHost : public EditorHost {
         if (milliseconds) stopper = *milliseconds;
     }
     void unloadFileProperties() override { ++unloaded; }
+    void tracksReplaced() override {}
     bool confirmClearingOnlyStaff() override {
         ++clearQuestions;
         return allowClearing;

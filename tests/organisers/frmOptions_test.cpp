@@ -24,6 +24,7 @@ class FakeHost : public OptionsHost {
     void setTabOneColor(bool one) override { oneColor = one; }
     void showStatistics(bool shown) override { statistics = shown; }
     void setDebugMode(bool on) override { debug = on; }
+    void languageApplied() override { ++languages; }
     void silenceAfter(int milliseconds) override { silence = milliseconds; }
 
     Document opened;
@@ -32,6 +33,7 @@ class FakeHost : public OptionsHost {
     QRgb color = 0;
     int borderWidth = 1;
     int silence = 0;
+    int languages = 0;
     bool oneColor = false, statistics = false, debug = false;
 };
 

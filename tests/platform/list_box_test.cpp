@@ -1,6 +1,8 @@
 // One Click for each act of the user.
 #include "platform/list_box.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -53,6 +55,39 @@ TEST_F(Lists, RaiseOneClickForADragFromRowToRow) {
 TEST_F(Lists, RaiseNoneForAClickBelowTheRows) {
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, {20, 180});
     EXPECT_TRUE(rows.empty());
+}
+
+TEST_F(Lists, RaiseOneDoubleClickForTwoClicksOrReturnOnTheChosenRow) {
+    std::vector<int> doubles;
+    list.DoubleClick = [&] { doubles.push_back(list.chosenRow()); };
+    QTest::keyClick(&list, Qt::Key_Return); // nothing is chosen
+    EXPECT_TRUE(doubles.empty());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place(1));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place(1));
+    EXPECT_EQ(doubles, std::vector<int>{1});
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(doubles, (std::vector<int>{1, 1}));
+    QTest::mouseDClick(list.viewport(), Qt::RightButton, {}, place(1));
+    EXPECT_EQ(doubles, (std::vector<int>{1, 1}));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, {20, 180});
+    EXPECT_EQ(doubles, (std::vector<int>{1, 1, 1}));
+}
+
+TEST_F(Lists, TakeTheRowUnderADoubleClickThatComesWithoutAPress) {
+    int row = -1;
+    list.DoubleClick = [&] { row = list.chosenRow(); };
+    const QPointF at = place(2);
+    QMouseEvent event(QEvent::MouseButtonDblClick, at, list.viewport()->mapToGlobal(at), Qt::LeftButton,
+                      Qt::LeftButton, {});
+    QApplication::sendEvent(list.viewport(), &event);
+    EXPECT_EQ(row, 2);
+}
+
+TEST_F(Lists, HaveNoChosenRowWhereTheKeyboardAloneStands) {
+    list.setFocus();
+    EXPECT_EQ(list.chosenRow(), -1);
+    list.setCurrentRow(1);
+    EXPECT_EQ(list.chosenRow(), 1);
 }
 
 } // namespace

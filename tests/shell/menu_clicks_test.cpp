@@ -57,6 +57,9 @@ class MenuClicks : public ::testing::Test {
         window.ToggleMenus(true);
         for (QWidget* widget : QApplication::topLevelWidgets())
             if (widget != &window && widget->isVisible()) widget->close();
+        // The desktop gives the window the keyboard back.
+        window.activateWindow();
+        QApplication::processEvents();
         // A panel that a command opened holds the page.
         for (const char* panel : {"picBend", "picRepeat"})
             window.findChild<QWidget*>(panel)->hide();

@@ -10,9 +10,7 @@ class Playback : public PlayerTest {};
 class PlaybackInterval : public PlayerTest {
   protected:
     std::optional<int> interval(int tempo, std::int16_t doubleTime = False16) {
-        document.Tempo = static_cast<std::int16_t>(tempo);
-        document.DoubleTime = doubleTime;
-        return playbackInterval(document);
+        return playbackInterval(tempo, doubleTime != False16);
     }
 };
 
@@ -48,7 +46,7 @@ TEST_F(Playback, PlayFromHereBeginsAtTheCursorOutsideARepeat) {
 
 TEST_F(PlaybackInterval, ANewDocumentsColumnLastsAnEighthOfASecond) {
     resetToNewDocument(document);
-    EXPECT_EQ(playbackInterval(document), 125);
+    EXPECT_EQ(playbackInterval(document.Tempo, document.DoubleTime != False16), 125);
 }
 
 TEST_F(PlaybackInterval, EveryTempoOfTheSliderDividesTheMinute) {

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QValidator>
 
+#include <functional>
 #include <string>
 
 class QLineEdit;
@@ -23,7 +24,7 @@ class CodePageValidator : public QValidator {
     State validate(QString& text, int& position) const override;
 };
 
-// The box takes only what a file can hold; at a refused character a hint shows beside it.
-void restrictToCodePage(QLineEdit& box);
+// The box takes only what a file can hold; at a refused character `hint` shows beside it.
+void restrictToCodePage(QLineEdit& box, std::function<QString()> hint);
 
 } // namespace tabrova

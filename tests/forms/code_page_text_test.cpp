@@ -1,5 +1,5 @@
 // Text boxes whose text goes into a file refuse what the file cannot hold.
-#include "core/shell/code_page_text.h"
+#include "forms/code_page_text.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -23,7 +23,7 @@ TEST(CodePageText, GoesThereAndBack) {
 class RestrictedBox : public ::testing::Test {
   protected:
     RestrictedBox() {
-        restrictToCodePage(box);
+        restrictToCodePage(box, [] { return QString("A tablature file cannot hold this character."); });
         box.show();
         box.setFocus();
     }

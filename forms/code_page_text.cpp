@@ -1,4 +1,4 @@
-#include "core/shell/code_page_text.h"
+#include "forms/code_page_text.h"
 
 #include "core/code_page.h"
 
@@ -28,11 +28,10 @@ QValidator::State CodePageValidator::validate(QString& text, int&) const {
     return Acceptable;
 }
 
-void restrictToCodePage(QLineEdit& box) {
+void restrictToCodePage(QLineEdit& box, std::function<QString()> hint) {
     box.setValidator(new CodePageValidator(&box));
-    QObject::connect(&box, &QLineEdit::inputRejected, &box, [&box] {
-        QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())),
-                           QObject::tr("A tablature file cannot hold this character."), &box);
+    QObject::connect(&box, &QLineEdit::inputRejected, &box, [&box, hint = std::move(hint)] {
+        QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), hint(), &box);
     });
 }
 

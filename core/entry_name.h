@@ -1,0 +1,12 @@
+// The names of the small files that the user makes and chooses by name alone.
+#pragma once
+
+#include <string_view>
+
+namespace tabrova {
+
+// Whether the name can stand for a file in one folder: neither empty, "." nor "..", and without a path
+// separator of any system. Other names are refused as a failing file system would refuse them.
+bool isEntryName(std::u16string_view name);
+
+} // namespace tabrova

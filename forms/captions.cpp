@@ -1,0 +1,112 @@
+#include "forms/captions.h"
+
+#include "core/language/language_lines.h"
+#include "core/language/text_lines.h"
+#include "forms/control_names.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QGroupBox>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTabWidget>
+
+namespace tabrova {
+
+namespace {
+
+// The form's controls by name, in lower case.
+class FormControls {
+  public:
+    explicit FormControls(QWidget& form) : form_(form) {
+        for (QObject* control : namedControls(form))
+            controls_.insert(control->objectName().toLower(), control);
+    }
+
+    void show(const LanguageLine& line, const QString& text, const MessageSink& message) const {
+        switch (line.use) {
+        case LineUse::Title:
+            form_.setWindowTitle(text);
+            break;
+        case LineUse::Caption:
+            setCaption(line.target, text);
+            break;
+        case LineUse::ToolTip:
+            setToolTip(line.target, text);
+            break;
+        case LineUse::Message:
+            if (message) message(line.target, text);
+            break;
+        }
+    }
+
+  private:
+    void setCaption(const QString& name, const QString& text) const {
+        QObject* control = controls_.value(name.toLower());
+        if (!control) return setTabCaption(name, text);
+        if (auto* action = qobject_cast<QAction*>(control)) action->setText(text);
+        if (auto* button = qobject_cast<QAbstractButton*>(control)) button->setText(text);
+        if (auto* label = qobject_cast<QLabel*>(control)) {
+            label->setTextFormat(Qt::PlainText);
+            label->setText(text);
+        }
+        if (auto* group = qobject_cast<QGroupBox*>(control)) group->setTitle(text);
+        if (auto* line = qobject_cast<QLineEdit*>(control)) line->setText(text);
+    }
+
+    // NAME(INDEX) of a set of tabs.
+    void setTabCaption(const QString& name, const QString& text) const {
+        const qsizetype bracket = name.indexOf('(');
+        auto* tabs = qobject_cast<QTabWidget*>(controls_.value(name.left(bracket).toLower()));
+        if (tabs) tabs->setTabText(name.mid(bracket + 1, name.size() - bracket - 2).toInt(), text);
+    }
+
+    // A button with a key of its own names the key too.
+    void setToolTip(const QString& name, const QString& text) const {
+        auto* widget = qobject_cast<QWidget*>(controls_.value(name.toLower()));
+        if (!widget) return;
+        const QString key = widget->property("key").toString();
+        const QString hint = key.isEmpty() ? text : text + " (" + key + ")";
+        widget->setToolTip(hint);
+        if (qobject_cast<QAbstractButton*>(widget)) widget->setAccessibleName(hint);
+    }
+
+    QWidget& form_;
+    QHash<QString, QObject*> controls_;
+};
+
+} // namespace
+
+void showBuiltInCaptions(QWidget& form, const MessageSink& message) {
+    const FormControls controls(form);
+    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString()))
+        controls.show(line, QString::fromUtf8(line.text), message);
+}
+
+void readLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {
+    const auto last = static_cast<std::size_t>(lastLanguageLine());
+    const std::vector<std::string> texts = readTextLines(activeLanguageFile(programFolder), last);
+    const FormControls controls(form);
+    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString())) {
+        const auto index = static_cast<std::size_t>(line.number - 1);
+        if (index >= texts.size()) break;
+        controls.show(line, QString::fromStdString(texts[index]), message);
+    }
+}
+
+void loadLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {
+    showBuiltInCaptions(form, message);
+    readLanguage(form, programFolder, message);
+}
+
+std::filesystem::path activeLanguageFile(const std::filesystem::path& programFolder) {
+    return programFolder / "lang.trl";
+}
+
+std::filesystem::path installedLanguages(const std::filesystem::path& programFolder) {
+    return programFolder / "languages";
+}
+
+} // namespace tabrova

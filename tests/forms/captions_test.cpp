@@ -1,0 +1,141 @@
+// A form's texts: the built-in ones, those of a file as far as it goes, and the kinds of controls.
+#include "forms/captions.h"
+
+#include "core/language/language_lines.h"
+#include "forms/control_names.h"
+#include "forms/named.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QGroupBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace tabrova {
+namespace {
+
+class Captions : public ::testing::Test {
+  protected:
+    // Lines "1" to `last`, each its own number.
+    void writeNumberedLines(int last) {
+        std::ofstream file(activeLanguageFile(folder()), std::ios::binary);
+        for (int number = 1; number <= last; ++number)
+            file << number << "\r\n";
+    }
+    std::filesystem::path folder() const { return home.path().toStdString(); }
+
+    QTemporaryDir home;
+};
+
+TEST_F(Captions, EachLineGoesToItsControl) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    QLabel* title = named(new QLabel(&form), "Label1");
+    QPushButton* done = named(new QPushButton(&form), "Command1");
+    writeNumberedLines(343);
+    loadLanguage(form, folder());
+    EXPECT_EQ(form.windowTitle(), "221");
+    EXPECT_EQ(title->text(), "222");
+    EXPECT_EQ(done->text(), "229");
+}
+
+TEST_F(Captions, AShortFileLeavesTheRestAtTheBuiltInTexts) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    QLabel* title = named(new QLabel(&form), "Label1");
+    QLabel* author = named(new QLabel(&form), "Label2");
+    writeNumberedLines(222);
+    loadLanguage(form, folder());
+    EXPECT_EQ(title->text(), "222");
+    EXPECT_EQ(author->text(), "Author:");
+}
+
+TEST_F(Captions, WithoutAFileAllTextsAreTheBuiltInOnes) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    loadLanguage(form, folder());
+    EXPECT_EQ(form.windowTitle(), "File Properties");
+}
+
+TEST_F(Captions, AReadingOfAShorterFileLeavesWhatTheFormShows) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    QPushButton* done = named(new QPushButton(&form), "Command1");
+    writeNumberedLines(343);
+    loadLanguage(form, folder());
+    writeNumberedLines(3);
+    readLanguage(form, folder());
+    EXPECT_EQ(done->text(), "229");
+}
+
+TEST_F(Captions, AreNoMarkupAndMayBeEmpty) {
+    QDialog form;
+    form.setObjectName("frmChordWizard");
+    QLabel* title = named(new QLabel(&form), "lblTitle");
+    loadLanguage(form, folder());
+    EXPECT_EQ(title->text(), "<no chord>");
+    EXPECT_EQ(title->textFormat(), Qt::PlainText);
+    std::ofstream(activeLanguageFile(folder())) << std::string(400, '\n');
+    readLanguage(form, folder());
+    EXPECT_EQ(title->text(), "");
+}
+
+TEST_F(Captions, GoToMenusTabsGroupsAndToolTips) {
+    QDialog form;
+    form.setObjectName("frmOptions");
+    auto* tabs = named(new QTabWidget(&form), "OptionsTabs");
+    tabs->addTab(new QWidget, "");
+    tabs->addTab(new QWidget, "");
+    auto* group = named(new QGroupBox(&form), "grpSynthesizer");
+    auto* test = named(new QPushButton(&form), "cmdTestSound");
+    loadLanguage(form, folder());
+    EXPECT_EQ(tabs->tabText(0), "Sound");
+    EXPECT_EQ(tabs->tabText(1), "Appearance");
+    EXPECT_EQ(group->title(), "Built-in Synthesizer");
+    EXPECT_EQ(test->text(), "Test");
+    EXPECT_EQ(test->toolTip(), "Play a chord on the output device");
+
+    QWidget main;
+    main.setObjectName("frmMain");
+    QMenu menu(&main);
+    QAction* item = named(menu.addAction(""), "mnuFileNew");
+    auto* button = named(new QPushButton(&main), "Toolbar1(new)");
+    button->setProperty("key", "Ctrl+N");
+    loadLanguage(main, folder());
+    EXPECT_EQ(item->text(), "&New");
+    EXPECT_EQ(button->toolTip(), "New (Ctrl+N)");
+    EXPECT_EQ(button->accessibleName(), "New (Ctrl+N)");
+}
+
+TEST_F(Captions, MessagesGoToTheForm) {
+    QDialog form;
+    form.setObjectName("frmMetronome");
+    std::map<std::string, QString> messages;
+    writeNumberedLines(250);
+    loadLanguage(form, folder(),
+                 [&](std::string_view name, const QString& text) { messages[std::string(name)] = text; });
+    EXPECT_EQ(messages["start"], "250");
+    EXPECT_EQ(messages["stop"], "Stop");
+    loadLanguage(form, folder()); // nobody listens
+}
+
+TEST_F(Captions, AFormsDialogsAreOtherForms) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    QDialog dialog(&form);
+    dialog.setObjectName("frmOther");
+    QLabel* other = named(new QLabel("untouched", &dialog), "Label1");
+    loadLanguage(form, folder());
+    EXPECT_EQ(other->text(), "untouched");
+    EXPECT_EQ(controlNamed(form, "Label1"), nullptr);
+    EXPECT_EQ(controlNamed(dialog, "label1"), other);
+}
+
+} // namespace
+} // namespace tabrova
