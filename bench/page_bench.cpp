@@ -82,6 +82,46 @@ void FullRedraw(benchmark::State& state) {
     });
 }
 
+// Both views are shown: the strip's notation, the rhythm below the tab and the neck are part of the redraw.
+void WholeRefreshWithBothViews(benchmark::State& state) {
+    Program program;
+    program.window.menu().action("mnuVirtualFretboard")->trigger();
+    makeDenseDocument(program.window.document(), 4096);
+    measureAgainstCopy(state, [&] { program.window.editor().refreshdrawing(); });
+}
+
+// The cursor's staff alone; the argument is the number of columns from one note to the next.
+void NotationPass(benchmark::State& state) {
+    Document document;
+    makeDenseDocument(document, 12);
+    for (int column = 0; column < document.ColumnCapacity; ++column)
+        if (column % state.range(0) != 0)
+            for (int string = 0; string < StringsPerTrack; ++string)
+                document.setNote(column, string, "");
+    TabView view;
+    view.picDocument.resize(PageWidth, PageHeight);
+    view.picStandardNotation.resize(PageWidth, 168);
+    document.ColumnWidth = columnWidth(PageWidth);
+    measureAgainstCopy(state, [&] { view.DrawNotationAndRhythm(document); });
+}
+
+void Fretboard(benchmark::State& state) {
+    Document document;
+    makeDenseDocument(document, 1);
+    TabView view;
+    view.picFretboard.resize(FretboardWidth, PageHeight);
+    measureAgainstCopy(state, [&] { view.DrawFretBoard(document, {CursorColor, 0xFFB8B8B8}); });
+}
+
+void CursorMove(benchmark::State& state) {
+    Program program;
+    program.window.menu().action("mnuVirtualFretboard")->trigger();
+    makeDenseDocument(program.window.document(), 12);
+    program.window.editor().refreshdrawing();
+    for (auto _ : state)
+        program.window.editor().MoveCursor(Direction::Nowhere);
+}
+
 void WholeRefresh(benchmark::State& state) {
     Program program;
     makeDenseDocument(program.window.document(), 4096);
@@ -111,6 +151,10 @@ void KeyToImage(benchmark::State& state) {
 
 BENCHMARK(FullRedraw)->Arg(12)->Arg(1)->Arg(4096)->Unit(benchmark::kMicrosecond);
 BENCHMARK(WholeRefresh)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WholeRefreshWithBothViews)->Unit(benchmark::kMicrosecond);
+BENCHMARK(NotationPass)->Arg(1)->Arg(4)->Arg(17)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Fretboard)->Unit(benchmark::kMicrosecond);
+BENCHMARK(CursorMove)->Unit(benchmark::kMicrosecond);
 BENCHMARK(TypedNoteWithoutSound)->Unit(benchmark::kMicrosecond);
 BENCHMARK(KeyToImage)->Unit(benchmark::kMillisecond);
 

@@ -49,6 +49,8 @@ class Editor {
 
     void MoveCursor(Direction direction);
     void picDocument_MouseDown(MouseButton button, int x, int y);
+    // The fretboard takes and removes notes; the cursor stays and nothing sounds.
+    void picFretboard_MouseDown(MouseButton button, int x, int y);
     // The scroll bar was moved to `value`, which is brought into its range.
     void VScroll1_Change(int value);
 
@@ -99,6 +101,8 @@ class Editor {
     void finishStructureEdit();
     void pullPageIntoDocument();
 
+    void DrawFretBoard();
+    void DrawNotationAndRhythm();
     void placeCursorAt(int x, int y);
     void updateScrollRange();
     int scrollMaximum() const;

@@ -38,7 +38,7 @@ void Editor::MoveCursor(Direction direction) {
         break;
     }
     page_.placeLines();
-    view_.DrawFretBoard(document_);
+    DrawFretBoard();
     host_.refreshFretboard();
 }
 

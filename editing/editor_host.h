@@ -27,6 +27,10 @@ class EditorHost {
     virtual void setTrackPanel(const std::string& text) = 0;
     virtual void UpdateTechniqueButtons(bool guitarTrack) = 0;
 
+    // Height of the window's client area.
+    virtual int clientHeight() const = 0;
+    // Of the fretboard's inlays, from the window's theme.
+    virtual QRgb inlayColor() const = 0;
     // The page in the window's client area.
     virtual Rect pageGeometry() const = 0;
     // Size of a panel; its place is where it stood last.

@@ -9,7 +9,7 @@
 namespace tabrova {
 
 void Editor::refreshdrawing() {
-    view_.DrawFretBoard(document_);
+    DrawFretBoard();
     view_.picDocument.Cls();
     view_.picStandardNotation.Cls();
     document_.VisibleStaves = visibleStaves(view_.picDocument.height());
@@ -17,7 +17,7 @@ void Editor::refreshdrawing() {
     view_.drawStaves(document_);
     view_.drawStripBackground();
     updateScrollRange();
-    view_.DrawNotationAndRhythm(document_);
+    DrawNotationAndRhythm();
     host_.refreshStrip();
     host_.refreshPage();
     // The cursor's top is left alone: whoever changes the staff or string keeps it up to date.
@@ -26,6 +26,11 @@ void Editor::refreshdrawing() {
     host_.UpdateTechniqueButtons(document_.isGuitarTrack(document_.CurrentTrack));
     SetDebugLabel();
     host_.setTitle("Tabrova - " + document_.Title + " by " + document_.Author);
+}
+
+void Editor::DrawNotationAndRhythm() {
+    if (document_.isGuitarTrack(document_.CurrentTrack)) GetCurrentXPosition(document_);
+    view_.DrawNotationAndRhythm(document_);
 }
 
 int Editor::scrollMaximum() const {

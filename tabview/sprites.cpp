@@ -25,11 +25,16 @@ constexpr Rect cell(int left, int top) { return {left, top, 9, 7}; }
 
 } // namespace
 
+std::optional<int> fretOfText(std::string_view text) {
+    const auto fret = shortNumber(text);
+    return fret && *fret <= HighestFret ? fret : std::nullopt;
+}
+
 std::optional<Rect> noteGlyph(std::string_view text) {
     if (text == "x") return sprite::DeadNote;
     if (text == ">") return sprite::JumpMark;
-    const auto fret = shortNumber(text);
-    if (!fret || *fret > HighestFret) return std::nullopt;
+    const auto fret = fretOfText(text);
+    if (!fret) return std::nullopt;
     return cell(1 + CellPitch * *fret, 1);
 }
 

@@ -119,6 +119,19 @@ void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& fro
                    row(from.image(), source.top + line) + source.left + xs.first, xs.end - xs.first, raster);
 }
 
+void fillRect(Surface& to, const Rect& place, QRgb color) {
+    const int left = std::max(place.left, 0);
+    const int right = std::min(place.right(), to.width());
+    const int top = std::max(place.top, 0);
+    const int bottom = std::min(place.bottom(), to.height());
+    if (left >= right || top >= bottom) return;
+    const int scale = to.scale();
+    const qsizetype stride = to.image().bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
+    QRgb* pixels = row(to.image(), top * scale) + left * scale;
+    for (int line = top * scale; line < bottom * scale; ++line, pixels += stride)
+        std::fill_n(pixels, (right - left) * scale, color);
+}
+
 void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect& source, Raster raster) {
     if (place.width < 1 || place.height < 1) return;
     if (place.width == source.width && place.height == source.height)

@@ -66,7 +66,11 @@ class Surface {
 void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& from, int sourceX, int sourceY,
             Raster raster);
 
-// Enlarges or shrinks by nearest neighbour. A width or height below 1 draws nothing.
+// What falls outside the surface is left out.
+void fillRect(Surface& to, const Rect& place, QRgb color);
+
+// Enlarges or shrinks by nearest neighbour. A width or height below 1 draws nothing. `source` must lie on
+// `from`, which may be `to`.
 void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect& source, Raster raster);
 
 } // namespace tabrova

@@ -10,7 +10,7 @@ namespace tabrova {
 namespace {
 
 constexpr int StripHeight = 168;
-constexpr int FretboardWidth = 89;
+constexpr QRgb StemColor = 0xFF000000;
 
 } // namespace
 
@@ -36,8 +36,11 @@ void TabView::setScale(int scale) {
 }
 
 void TabView::paint(Surface& surface, const std::vector<SpriteCopy>& copies) {
-    for (const SpriteCopy& copy : copies)
-        StretchBlt(surface, copy.place, sheet_, copy.source, copy.raster);
+    for (const SpriteCopy& copy : copies) {
+        const Surface& from = copy.from == CopyFrom::Page ? picDocument : sheet_;
+        if (copy.source.right() > from.width() || copy.source.bottom() > from.height()) continue;
+        StretchBlt(surface, copy.place, from, copy.source, copy.raster);
+    }
 }
 
 void TabView::copyToPage(const SpriteCopy& copy) {
@@ -52,8 +55,18 @@ int TabView::drawStaves(const Document& document) {
 
 void TabView::drawStripBackground() { paint(picStandardNotation, stripBackground(picDocument.width())); }
 
-void TabView::DrawNotationAndRhythm(const Document& document) { ruler_ = beatRuler(document.ColumnWidth); }
+void TabView::DrawNotationAndRhythm(const Document& document) {
+    ruler_ = beatRuler(document.ColumnWidth);
+    layoutNotation(notation_, document, NoteTop);
+    paint(picDocument, notation_.page);
+    paint(picStandardNotation, notation_.strip);
+    for (const Line& stem : notation_.stems)
+        fillRect(picStandardNotation, {stem.x1, stem.y2, 1, stem.y1 - stem.y2 + 1}, StemColor);
+}
 
-void TabView::DrawFretBoard(const Document&) {}
+void TabView::DrawFretBoard(const Document& document, const FretboardColors& colors) {
+    picFretboard.Cls();
+    paintFretboard(picFretboard, layoutFretboard(document, picFretboard.height()), colors);
+}
 
 } // namespace tabrova

@@ -2,6 +2,8 @@
 // is remembered between two redraws but its image.
 #pragma once
 
+#include "tabview/fretboard_painter.h"
+#include "tabview/notation_layout.h"
 #include "tabview/page_geometry.h"
 #include "tabview/page_layout.h"
 #include "tabview/surface.h"
@@ -23,11 +25,11 @@ class TabView {
     // The visible staves over a cleared page. Returns PageRow, the number of staves drawn.
     int drawStaves(const Document& document);
     void drawStripBackground();
-    // The notation of the cursor's staff on the strip and its rhythm under the tab; the beat ruler's ticks
-    // come first.
+    // The notation of the cursor's staff on the strip and its rhythm under the tab, unless the track is a
+    // percussion track; the beat ruler's ticks come first.
     void DrawNotationAndRhythm(const Document& document);
-    // The neck with the notes of the cursor's column.
-    void DrawFretBoard(const Document& document);
+    // The neck and its notes, which are those of CurrentColumn.
+    void DrawFretBoard(const Document& document, const FretboardColors& colors);
 
     // One copy onto the page, as the path of a typed note makes it.
     void copyToPage(const SpriteCopy& copy);
@@ -40,6 +42,8 @@ class TabView {
     Surface sheet_;
     std::vector<SpriteCopy> copies_;
     std::vector<RulerTick> ruler_;
+    NotationLayout notation_;
+    std::int16_t NoteTop = 0;
 };
 
 // The sprite sheet at 1, 2 or 3 image pixels a logical pixel.

@@ -65,14 +65,21 @@ void drawHeads(SheetCanvas& canvas) {
 
 void drawSharp(SheetCanvas& canvas) {
     canvas.paint(QRect(470, 35, 8, 9), Copying::And, [&](QPainter& painter) {
-        painter.fillRect(QRectF(2, 1, 1, 8), ink);
-        painter.fillRect(QRectF(5, 0, 1, 8), ink);
-        for (const double row : {2.2, 5.2}) {
+        if (canvas.scale() == 1) {
+            drawPixels(
+                painter, {0, 0},
+                {".....#", "..#..#", "..#+###", ".####+", "..#..#", "..#+###", ".####+", "..#..#", "..#"});
+            return;
+        }
+        // Thin uprights and broad slanting bars.
+        painter.fillRect(QRectF(2, 1, 0.75, 8), ink);
+        painter.fillRect(QRectF(5, 0, 0.75, 8), ink);
+        for (const double row : {2.1, 5.1}) {
             QPainterPath bar;
-            bar.moveTo(0.7, row + 0.6);
-            bar.lineTo(7.3, row - 0.6);
-            bar.lineTo(7.3, row + 0.9);
-            bar.lineTo(0.7, row + 2.1);
+            bar.moveTo(0.5, row + 0.7);
+            bar.lineTo(7.25, row - 0.7);
+            bar.lineTo(7.25, row + 1.0);
+            bar.lineTo(0.5, row + 2.4);
             painter.fillPath(bar, ink);
         }
     });

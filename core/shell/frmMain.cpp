@@ -30,6 +30,7 @@ frmMain::frmMain(Services& services)
     connectPanels();
     connectPage();
     connectMenus();
+    connectViews();
     connectTracks();
     makeTimers();
     loadInstruments();
@@ -105,17 +106,6 @@ void frmMain::ToggleMenus(bool enabled) {
     if (!enabled) return;
     focusPage();
     UpdateTechniqueButtons(document_.isGuitarTrack(document_.CurrentTrack));
-}
-
-// The strip opens only on a guitar track; it can be closed on any.
-void frmMain::mnuViewNotation() {
-    const bool show = menu_->isChecked("mnuViewNotation");
-    if (show && !document_.isGuitarTrack(document_.CurrentTrack))
-        return menu_->setChecked("mnuViewNotation", false);
-    layout_ = withStrip(layout_, show);
-    Form_Resize();
-    editor_.page().vLine1Visible = !show;
-    refreshPage();
 }
 
 void frmMain::Form_Resize() {

@@ -7,6 +7,7 @@
 #include "core/language/language_words.h"
 #include "core/shell/bend_panel.h"
 #include "core/shell/document_commands.h"
+#include "core/shell/fretboard_widget.h"
 #include "core/shell/frmAltSplash.h"
 #include "core/shell/main_menu.h"
 #include "core/shell/note_selector.h"
@@ -73,6 +74,8 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     void setStatistics(const std::string& text) override;
     void setTrackPanel(const std::string& text) override;
     void UpdateTechniqueButtons(bool guitarTrack) override;
+    int clientHeight() const override;
+    QRgb inlayColor() const override;
     Rect pageGeometry() const override;
     Rect panelGeometry(Panel panel) const override;
     void openPanel(Panel panel, const Rect& place) override;
@@ -140,7 +143,9 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     void showFrmHelp();
     void showFrmFileProperties();
     void showFrmPercussion();
+    void connectViews();
     void mnuViewNotation();
+    void mnuVirtualFretboard();
     void Form_Resize();
     void placePanels();
     void enablePage();
@@ -172,7 +177,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     Toolbar* toolbar_ = nullptr;
     PageWidget* page_ = nullptr;
     SurfaceWidget* strip_ = nullptr;
-    SurfaceWidget* fretboard_ = nullptr;
+    FretboardWidget* fretboard_ = nullptr;
     QScrollBar* VScroll1_ = nullptr;
     NoteSelector* noteSelector_ = nullptr;
     BendPanel* bendPanel_ = nullptr;

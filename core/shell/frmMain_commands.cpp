@@ -16,7 +16,6 @@ void frmMain::connectMenus() {
     menu_->connectItem("mnuCCP", [this] { chooseMode(true); });
     menu_->connectItem("mnuIntelligent",
                        [this] { editor_.modes.intelligent = menu_->isChecked("mnuIntelligent"); });
-    menu_->connectItem("mnuViewNotation", [this] { mnuViewNotation(); });
     menu_->connectItem("mnuViewRefresh", [this] { editor_.refreshdrawing(); });
     menu_->connectItem("mnuToolsOptions", [this] { showOptions(OptionsTab::Sound); });
     menu_->connectItem("mnuSoundPlayAll", [this] { play(PlayFrom::Start); });

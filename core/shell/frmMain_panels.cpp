@@ -2,6 +2,7 @@
 // them.
 #include "core/document_operations.h"
 #include "core/shell/frmMain.h"
+#include "core/shell/key_mapping.h"
 #include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
 #include "forms/code_page_text.h"
@@ -17,17 +18,6 @@ namespace {
 
 QRect qRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
 
-MouseButton buttonOf(int qtButton) {
-    switch (qtButton) {
-    case Qt::LeftButton:
-        return MouseButton::Left;
-    case Qt::RightButton:
-        return MouseButton::Right;
-    default:
-        return MouseButton::Middle;
-    }
-}
-
 } // namespace
 
 void frmMain::buildPanels() {
@@ -41,7 +31,7 @@ void frmMain::buildPanels() {
     VScroll1_->setObjectName("VScroll1");
     VScroll1_->setRange(1, 1);
     VScroll1_->setFocusPolicy(Qt::NoFocus);
-    fretboard_ = new SurfaceWidget("picFretboard", view_.picFretboard, client_);
+    fretboard_ = new FretboardWidget(view_.picFretboard, client_);
     statusBar_ = new StatusBar(client_);
     lbldebug_ = new QLabel(client_);
     lbldebug_->setObjectName("lbldebug");
@@ -88,7 +78,7 @@ void frmMain::connectPage() {
     PageWidget::Handlers handlers;
     handlers.key = [this](int keyCode, int shift) { editor_.picDocument_KeyDown(keyCode, shift); };
     handlers.mouseDown = [this](int button, int x, int y) {
-        editor_.picDocument_MouseDown(buttonOf(button), x, y);
+        editor_.picDocument_MouseDown(mouseButtonOf(button), x, y);
     };
     handlers.doubleClick = [this] {
         if (!document_.isGuitarTrack(document_.CurrentTrack)) showFrmPercussion();

@@ -69,4 +69,15 @@ bool isModifierAlone(const QKeyEvent& event) {
     }
 }
 
+MouseButton mouseButtonOf(int qtButton) {
+    switch (qtButton) {
+    case Qt::LeftButton:
+        return MouseButton::Left;
+    case Qt::RightButton:
+        return MouseButton::Right;
+    default:
+        return MouseButton::Middle;
+    }
+}
+
 } // namespace tabrova

@@ -1,5 +1,8 @@
-// Key presses of the toolkit as the editor's key codes. Keys go by what they type, not by their place.
+// Key presses and mouse buttons of the toolkit as the editor's codes. Keys go by what they type, not by their
+// place.
 #pragma once
+
+#include "editing/editor.h"
 
 class QKeyEvent;
 
@@ -14,5 +17,8 @@ KeyPress keyPressOf(const QKeyEvent& event);
 
 // A press of Shift, Control, Alt and the like alone, which is no command.
 bool isModifierAlone(const QKeyEvent& event);
+
+// Whatever is neither the left nor the right button counts as the middle one.
+MouseButton mouseButtonOf(int qtButton);
 
 } // namespace tabrova

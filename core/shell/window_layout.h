@@ -1,7 +1,7 @@
 // The window-size rules: where the main window's panels stand for a size of its client area. Logical pixels.
 #pragma once
 
-#include "tabview/surface.h"
+#include "tabview/fretboard_layout.h"
 
 namespace tabrova {
 
@@ -11,7 +11,6 @@ constexpr int PageTopWithoutStrip = 38;
 constexpr int StripTop = 24;
 constexpr int StripHeight = 168;
 constexpr int ScrollBarWidth = 16;
-constexpr int FretboardWidth = 89;
 constexpr int StatusBarHeight = 24;
 constexpr int TrackChooserHeight = 200;
 

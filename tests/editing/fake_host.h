@@ -37,6 +37,8 @@ class FakeHost : public EditorHost {
         record("UpdateTechniqueButtons");
         guitarButtons = guitarTrack;
     }
+    int clientHeight() const override { return windowHeight; }
+    QRgb inlayColor() const override { return 0xFFB4B4B4; }
     Rect pageGeometry() const override { return page; }
     Rect panelGeometry(Panel panel) const override { return panel == Panel::Bend ? bendPanel : repeatPanel; }
     void openPanel(Panel panel, const Rect& place) override {
@@ -79,7 +81,7 @@ class FakeHost : public EditorHost {
     Rect panelPlace, selectorPlace;
     int pageRefreshes = 0, redraws = 0, selectorsOpened = 0, focused = 0, unloaded = 0;
     int scrollMaximum = 0, scrollValue = 0, stopper = 0, stopperStarts = 0;
-    int clearQuestions = 0;
+    int clearQuestions = 0, windowHeight = 700;
     bool guitarButtons = false, debug = false, allowClearing = false;
 
   private:

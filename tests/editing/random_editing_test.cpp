@@ -4,6 +4,7 @@
 #include "tests/editing/fake_host.h"
 #include "tests/editing/plain_editor.h"
 #include "tests/tabview/plain_layout.h"
+#include "tests/tabview/plain_notation.h"
 
 #include <random>
 #include <sstream>
@@ -174,7 +175,7 @@ class RandomEditing : public EditorTest, public ::testing::WithParamInterface<un
         expectAt(document.CurrentStaff, document.ColumnInStaff, document.CurrentString, document.TopStaff);
     }
 
-    // After a redraw the page is nothing but its copies, whatever was drawn before.
+    // After a redraw the page is nothing but its copies and the rhythm's, whatever was drawn before.
     void expectFreshPage() {
         editor.refreshdrawing();
         model.redraw();
@@ -182,6 +183,9 @@ class RandomEditing : public EditorTest, public ::testing::WithParamInterface<un
         expected.fill(0xFFFFFEF2);
         for (const SpriteCopy& copy : PlainLayout(document, view.picDocument.width()).run())
             carryOut(expected, view.picSource().image(), copy);
+        for (const SpriteCopy& copy : PlainNotation(document, 0).run().page)
+            carryOut(expected, copy.from == CopyFrom::Page ? QImage(expected) : view.picSource().image(),
+                     copy);
         ASSERT_TRUE(sameImage(view.picDocument.image(), expected, "walk"));
     }
 

@@ -71,7 +71,6 @@ TEST_F(MainWindow, AFailingDeviceEndsTheProgram) {
 
 TEST_F(MainWindow, ItemsWithoutACommandAreDisabled) {
     EXPECT_FALSE(enabled("mnuChordManager"));
-    EXPECT_FALSE(enabled("mnuVirtualFretboard"));
     EXPECT_TRUE(enabled("mnuFileSave"));
     EXPECT_TRUE(enabled("mnuNoteRemoveBar"));
 }
@@ -110,6 +109,62 @@ TEST_F(MainWindow, ThePagesPixelsReachTheScreenUnchanged) {
     auto* page = window.findChild<QWidget*>("picDocument");
     const QImage seen = page->grab().toImage().convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(seen, window.view().picDocument.image());
+}
+
+TEST_F(MainWindow, ADoubleClickOnTheFretboardRunsTheChordManagersCommand) {
+    window.menu().action("mnuVirtualFretboard")->trigger();
+    auto* neck = window.findChild<QWidget*>("picFretboard");
+    const QPoint place(40, 100);
+    // Without a command nothing happens, but its first press is a click.
+    QTest::mouseClick(neck, Qt::LeftButton, {}, place);
+    const std::string fret(window.document().note(0, 3));
+    EXPECT_FALSE(fret.empty());
+    window.document().setNote(0, 3, "");
+    QTest::mouseDClick(neck, Qt::LeftButton, {}, place);
+    int runs = 0;
+    window.menu().connectItem("mnuChordManager", [&runs] { ++runs; });
+    QTest::mouseClick(neck, Qt::LeftButton, {}, place);
+    EXPECT_EQ(runs, 0);
+    QTest::mouseDClick(neck, Qt::LeftButton, {}, place);
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(window.document().note(0, 3), fret);
+    window.ToggleMenus(false);
+    QTest::mouseDClick(neck, Qt::LeftButton, {}, place);
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(MainWindow, TheViewsPixelsReachTheScreenUnchanged) {
+    window.menu().action("mnuVirtualFretboard")->trigger();
+    auto* neck = window.findChild<QWidget*>("picFretboard");
+    EXPECT_EQ(neck->grab().toImage().convertToFormat(QImage::Format_RGB32),
+              window.view().picFretboard.image());
+}
+
+TEST_F(MainWindow, InlaysTakeTheirColorFromTheTheme) {
+    window.menu().action("mnuVirtualFretboard")->trigger();
+    const auto inlay = [this] {
+        const Surface& neck = window.view().picFretboard;
+        const int pitch = fretPitch(neck.height());
+        return neck.image().pixel(45, pitch * 2 + 15 + 6) | 0xFF000000u;
+    };
+    for (const QRgb theme : {0xFFA0B0C0u, 0xFFB8B8B8u}) {
+        QPalette palette = window.palette();
+        palette.setColor(QPalette::Mid, QColor(theme));
+        window.setPalette(palette);
+        window.editor().refreshdrawing();
+        EXPECT_EQ(inlay(), theme);
+    }
+}
+
+TEST_F(MainWindow, AnySizeOfTheWindowIsDrawnWithBothViews) {
+    window.menu().action("mnuVirtualFretboard")->trigger();
+    for (const int width : {200, 783, 784, 900, 1700})
+        for (const int height : {40, 203, 206, 230, 300, 479, 480, 900, 1400}) {
+            window.resizeClient(width, height);
+            window.menu().action("mnuViewNotation")->trigger();
+            window.menu().action("mnuVirtualFretboard")->trigger();
+            QTest::mouseClick(window.findChild<QWidget*>("picFretboard"), Qt::LeftButton, {}, {40, 12});
+        }
 }
 
 TEST_F(MainWindow, TheWheelScrollsByStaves) {

@@ -246,5 +246,27 @@ TEST(StretchBlt, AgreesWithTheNaiveBlitterOnRandomCopies) {
     }
 }
 
+TEST(FillRect, FillsWhatLiesOnTheSurfaceAndNothingElse) {
+    for (const int scale : {1, 2, 3})
+        for (const Rect& place : {Rect{2, 3, 4, 5},
+                                  {-5, -5, 9, 9},
+                                  {15, 12, 100, 100},
+                                  {0, 0, 0, 5},
+                                  {0, 0, 5, -1},
+                                  {-9, 2, 5, 5},
+                                  {2, 90, 5, 5},
+                                  {0, -1000, 3, 100000}}) {
+            Surface page = pageOf(20, 16, scale);
+            QImage expected = page.image();
+            for (int y = 0; y < expected.height(); ++y)
+                for (int x = 0; x < expected.width(); ++x)
+                    if (x >= place.left * scale && x < place.right() * scale && y >= place.top * scale &&
+                        y < place.bottom() * scale)
+                        expected.setPixel(x, y, 0xFF102030);
+            fillRect(page, place, 0xFF102030);
+            EXPECT_EQ(page.image(), expected) << place.left << ',' << place.top << " scale " << scale;
+        }
+}
+
 } // namespace
 } // namespace tabrova::testing

@@ -1,0 +1,116 @@
+// The fretboard's pixels: lines, inlays, labels, and dots in every cursor colour.
+#include "tabview/tab_view.h"
+#include "tests/tabview/page_helpers.h"
+#include "tests/tabview/plain_blitter.h"
+
+namespace tabrova::testing {
+namespace {
+
+constexpr QRgb Black = 0xFF000000;
+constexpr QRgb Grey = 0xFFB8B8B8;
+constexpr QRgb CursorColors[] = {0xFFFF0000, 0xFF0000FF, 0xFF308CC6, 0xFF008000, 0xFFFF8000, 0xFF000000};
+
+class NeckPixels : public ::testing::Test {
+  protected:
+    NeckPixels() {
+        makePage(document, 1, 1, 984, 472);
+        view.picFretboard.resize(89, 465); // pitch 15
+    }
+    void draw(QRgb dot = CursorColor) { view.DrawFretBoard(document, {dot, Grey}); }
+    QRgb at(int x, int y) const { return colorAt(view.picFretboard.image(), x, y); }
+    // Something darker than the paper stands in this part.
+    bool inkIn(const Rect& part) const {
+        for (int y = part.top; y < part.bottom(); ++y)
+            for (int x = part.left; x < part.right(); ++x)
+                if (qGray(at(x, y)) < 128) return true;
+        return false;
+    }
+
+    Document document;
+    TabView view;
+};
+
+TEST_F(NeckPixels, LinesStringsAndInlays) {
+    draw();
+    for (int fret = 0; fret < 30; ++fret)
+        for (int x = 20; x <= 70; ++x)
+            EXPECT_EQ(at(x, 15 * fret + 15), Black) << x << " of " << fret;
+    EXPECT_EQ(at(19, 15), PaperColor);
+    EXPECT_EQ(at(71, 15), PaperColor);
+    for (const int x : {20, 30, 40, 50, 60, 70}) {
+        EXPECT_EQ(at(x, 14), PaperColor);
+        for (int y = 15; y < 465; ++y)
+            EXPECT_EQ(at(x, y), Black) << y;
+    }
+    EXPECT_EQ(at(45, 15 * 2 + 15 + 5), Grey);
+    EXPECT_EQ(at(35, 15 * 2 + 15 + 10), Grey);
+    EXPECT_EQ(at(55, 15 * 2 + 15 + 10), Grey);
+    EXPECT_EQ(at(45, 15 * 2 + 15 + 4), PaperColor);
+    EXPECT_EQ(at(45, 15 * 2 + 15 + 11), PaperColor);
+    EXPECT_EQ(at(45, 15 * 3 + 15 + 7), PaperColor);
+}
+
+TEST_F(NeckPixels, EveryFretButTheOpenStringHasALabel) {
+    draw();
+    EXPECT_FALSE(inkIn({0, 0, 19, 23}));
+    for (int fret = 1; fret < 30; ++fret)
+        EXPECT_TRUE(inkIn({4, 15 * fret + 15 - 4, 15, 9})) << fret;
+    EXPECT_FALSE(inkIn({0, 0, 4, 465}));
+}
+
+TEST_F(NeckPixels, DotsAreClearInEveryCursorColor) {
+    document.setNote(0, 2, "7");
+    for (const QRgb color : CursorColors) {
+        draw(color);
+        const int x = 50, y = 15 * 7 + 15;
+        for (int offset = -3; offset < 3; ++offset) {
+            EXPECT_EQ(at(x + offset, y), color);
+            EXPECT_EQ(at(x, y + offset), color);
+        }
+        for (const int edge : {-5, 4}) {
+            EXPECT_EQ(at(x + edge, y), Black);
+            EXPECT_EQ(at(x, y + edge), Black);
+        }
+        EXPECT_EQ(at(x + 5, y - 3), PaperColor);
+        EXPECT_EQ(at(x + 5, y + 3), PaperColor);
+    }
+}
+
+TEST_F(NeckPixels, ARedrawClearsWhatStoodThere) {
+    draw();
+    const QImage empty = view.picFretboard.image();
+    document.setNote(0, 2, "7");
+    draw();
+    EXPECT_NE(view.picFretboard.image(), empty);
+    document.setNote(0, 2, "x");
+    draw();
+    EXPECT_TRUE(sameImage(view.picFretboard.image(), empty, "neck"));
+}
+
+TEST_F(NeckPixels, AnySurfaceAndAnyColumnIsDrawn) {
+    for (const int column : {0, -5, 1 << 30}) {
+        document.CurrentColumn = column;
+        for (const int height : {1, 2, 15, 16, 30, 44, 45, 200, 5000})
+            for (const int scale : {1, 2, 3}) {
+                view.setScale(scale);
+                view.picFretboard.resize(89, height);
+                draw();
+            }
+    }
+}
+
+TEST_F(NeckPixels, LinesStandAtTheSamePlacesOnFinerScreens) {
+    for (const int scale : {2, 3}) {
+        view.setScale(scale);
+        document.setNote(0, 2, "7");
+        draw();
+        EXPECT_EQ(at(25 * scale, 30 * scale), Black);
+        EXPECT_EQ(at(25 * scale, 31 * scale - 1), Black);
+        EXPECT_EQ(at(25 * scale, 31 * scale), PaperColor);
+        EXPECT_EQ(at(45 * scale, 52 * scale), Grey);
+        EXPECT_EQ(at(50 * scale, 120 * scale), CursorColor);
+    }
+}
+
+} // namespace
+} // namespace tabrova::testing
