@@ -52,6 +52,30 @@ void sourceColumns(std::vector<int>& columns, const Rect& place, const Rect& sou
     }
 }
 
+// The source pixels that fall on one target pixel. A stretch that shrinks leaves none out.
+Span sourcePixels(int target, int sourceLength, int targetLength) {
+    const auto first = static_cast<int>(static_cast<qint64>(target) * sourceLength / targetLength);
+    const auto next = static_cast<int>(static_cast<qint64>(target + 1) * sourceLength / targetLength);
+    return {first, std::max(next, first + 1)};
+}
+
+// Pixels that fall together are combined as by SrcAnd: no stroke of a sprite is lost.
+void shrink(QImage& image, const Rect& target, Span xs, Span ys, const QImage& from, const Rect& piece,
+            Raster raster) {
+    for (int line = ys.first; line < ys.end; ++line) {
+        const Span lines = sourcePixels(line, piece.height, target.height);
+        QRgb* to = row(image, target.top + line) + target.left;
+        for (int column = xs.first; column < xs.end; ++column) {
+            const Span columns = sourcePixels(column, piece.width, target.width);
+            QRgb pixel = ~QRgb{0};
+            for (int y = lines.first; y < lines.end; ++y)
+                for (int x = columns.first; x < columns.end; ++x)
+                    pixel &= row(from, piece.top + y)[piece.left + x];
+            to[column] = raster == Raster::SrcAnd ? to[column] & pixel : pixel;
+        }
+    }
+}
+
 bool isOneColor(const QRgb* pixels, int count) {
     return count == 1 ||
            std::memcmp(pixels, pixels + 1, static_cast<std::size_t>(count - 1) * sizeof(QRgb)) == 0;
@@ -100,7 +124,7 @@ void Surface::resize(int width, int height) {
 void Surface::setScale(int scale) {
     if (scale == scale_) return;
     scale_ = scale;
-    image_ = blankImage();
+    image_ = image_.scaled(width_ * scale_, height_ * scale_);
 }
 
 void Surface::Cls() { image_.fill(background_); }
@@ -143,6 +167,8 @@ void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect&
     const Span xs = {std::max(0, -target.left), std::min(target.width, image.width() - target.left)};
     const Span ys = {std::max(0, -target.top), std::min(target.height, image.height() - target.top)};
     if (xs.first >= xs.end) return;
+    if (target.width < piece.width || target.height < piece.height)
+        return shrink(image, target, xs, ys, from.image(), piece, raster);
     static thread_local std::vector<int> columns;
     sourceColumns(columns, target, piece, xs);
     for (int line = ys.first; line < ys.end; ++line) {

@@ -45,7 +45,7 @@ class Surface {
 
     // The kept image stays where it was; what is new shows the background. Sizes below 1 count as 1.
     void resize(int width, int height);
-    // Clears the image.
+    // The kept image is enlarged or made smaller: not sharp, until it is drawn afresh.
     void setScale(int scale);
     void setBackground(QRgb background) { background_ = background; }
     QRgb background() const { return background_; }
@@ -69,8 +69,8 @@ void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& fro
 // What falls outside the surface is left out.
 void fillRect(Surface& to, const Rect& place, QRgb color);
 
-// Enlarges or shrinks by nearest neighbour. A width or height below 1 draws nothing. `source` must lie on
-// `from`, which may be `to`.
+// Enlarges by nearest neighbour; pixels that fall together where it shrinks are combined as by SrcAnd. A
+// width or height below 1 draws nothing. `source` must lie on `from`, which may be `to`.
 void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect& source, Raster raster);
 
 } // namespace tabrova

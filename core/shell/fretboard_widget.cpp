@@ -10,7 +10,7 @@ FretboardWidget::FretboardWidget(const Surface& surface, QWidget* parent)
 }
 
 void FretboardWidget::mousePressEvent(QMouseEvent* event) {
-    const QPoint place = event->position().toPoint();
+    const QPoint place = pixelAt(*event);
     handlers_.mouseDown(event->button(), place.x(), place.y());
 }
 

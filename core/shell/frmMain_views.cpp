@@ -20,7 +20,11 @@ void frmMain::mnuViewNotation() {
     const bool show = menu_->isChecked("mnuViewNotation");
     if (show && !document_.isGuitarTrack(document_.CurrentTrack))
         return menu_->setChecked("mnuViewNotation", false);
+    const int top = layout_.picDocument.top;
     layout_ = withStrip(layout_, show);
+    // An open panel stays beside the cursor.
+    for (QWidget* panel : {static_cast<QWidget*>(bendPanel_), static_cast<QWidget*>(repeatPanel_)})
+        panel->move(panel->x(), panel->y() + layout_.picDocument.top - top);
     Form_Resize();
     editor_.page().vLine1Visible = !show;
     refreshPage();

@@ -41,7 +41,8 @@ void PageWidget::keyPressEvent(QKeyEvent* event) {
 
 void PageWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
-    handlers_.mouseDown(event->button(), event->position().toPoint().x(), event->position().toPoint().y());
+    const QPoint place = pixelAt(*event);
+    handlers_.mouseDown(event->button(), place.x(), place.y());
 }
 
 // The second press of a double click is a press like the first.

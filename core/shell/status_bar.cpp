@@ -39,6 +39,8 @@ QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
 
 StatusBar::StatusBar(QWidget* parent) : QFrame(parent) {
     setObjectName("StatusBar1");
+    // The neck comes down behind it.
+    setAutoFillBackground(true);
     auto* row = new QHBoxLayout(this);
     // The track list comes down to 16 pixels above the window's lower edge.
     row->setContentsMargins(8, 7, 8, 0);

@@ -1,7 +1,9 @@
 #include "core/shell/surface_widget.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QtMath>
 
 namespace tabrova {
 
@@ -9,6 +11,10 @@ SurfaceWidget::SurfaceWidget(const QString& name, const Surface& surface, QWidge
     : QWidget(parent), surface_(surface) {
     setObjectName(name);
     setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QPoint SurfaceWidget::pixelAt(const QMouseEvent& event) {
+    return {qFloor(event.position().x()), qFloor(event.position().y())};
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {

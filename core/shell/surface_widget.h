@@ -18,6 +18,8 @@ class SurfaceWidget : public QWidget {
     std::function<void(QPainter&)> paintObjects;
 
   protected:
+    // The logical pixel under the mouse: on finer screens it lies on fractions of one.
+    static QPoint pixelAt(const QMouseEvent& event);
     void paintEvent(QPaintEvent* event) override;
 
   private:

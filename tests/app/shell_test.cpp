@@ -128,6 +128,7 @@ TEST(Shell, HidesAndShowsTheNotation) {
     EXPECT_EQ(geometry(page, "picDocument"), (QJsonArray{0, 204, 984, 472}));
     EXPECT_EQ(geometry(page, "picStandardNotation")[1].toInt(), 24);
     EXPECT_EQ(geometry(page, "picStandardNotation")[2].toInt(), 984 + 16 + 10);
+    EXPECT_FALSE(page["vLine1Visible"].toBool());
 }
 
 TEST(Shell, ThePageNeverGetsNarrowerThanItWas) {

@@ -141,5 +141,36 @@ TEST(ViewsOnFinerScreens, HaveTheirOwnPixels) {
     EXPECT_EQ(QImage(folder.filePath("neck.png")).size(), QSize(2 * 89, 2 * 654));
 }
 
+TEST_F(Views, AnOpenPanelStaysBesideTheCursorWhenTheStripGoes) {
+    drive.ok("key 66");
+    const int before = drive.page()["picBend"].toObject()["geometry"].toArray()[1].toInt();
+    drive.ok("do mnuViewNotation");
+    EXPECT_EQ(drive.page()["picBend"].toObject()["geometry"].toArray()[1].toInt(), before - (204 - 38));
+    drive.ok("do mnuViewNotation");
+    EXPECT_EQ(drive.page()["picBend"].toObject()["geometry"].toArray()[1].toInt(), before);
+}
+
+TEST_F(Views, NothingChangesTheStripsTitle) {
+    drive.ok("do mnuTrackProps");
+    drive.ok("set frmTrackProperties.txtTrackName Lead");
+    drive.ok("click frmTrackProperties.Command3");
+    EXPECT_EQ(DriverSession::text(drive.get("lblNotationTitle text")), "Track: Untitled Track");
+}
+
+TEST_F(Views, OnAPercussionTrackTheShownStripCanBeClosedButNotOpened) {
+    drive.ok("answer yes");
+    drive.ok("do mnuAddTrack");
+    drive.ok("do mnuViewNotation");
+    QJsonObject page = drive.page();
+    EXPECT_FALSE(page["picStandardNotation"].toObject()["visible"].toBool());
+    EXPECT_EQ(page["picDocument"].toObject()["geometry"].toArray()[1].toInt(), 38);
+    EXPECT_TRUE(page["vLine1Visible"].toBool());
+    drive.ok("do mnuViewNotation");
+    page = drive.page();
+    EXPECT_FALSE(page["picStandardNotation"].toObject()["visible"].toBool());
+    EXPECT_FALSE(drive.get("mnuViewNotation checked").toBool());
+    EXPECT_EQ(page["picDocument"].toObject()["geometry"].toArray()[1].toInt(), 38);
+}
+
 } // namespace
 } // namespace tabrova::testing

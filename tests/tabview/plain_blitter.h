@@ -44,7 +44,12 @@ inline void carryOut(QImage& to, const QImage& from, const SpriteCopy& copy, int
             const int fromX = copy.source.left * scale + x * copy.source.width / copy.place.width;
             const int fromY = copy.source.top * scale + y * copy.source.height / copy.place.height;
             if (!to.rect().contains(toX, toY) || !from.rect().contains(fromX, fromY)) continue;
-            const QRgb source = colorAt(from, fromX, fromY);
+            const int nextX = copy.source.left * scale + (x + 1) * copy.source.width / copy.place.width;
+            const int nextY = copy.source.top * scale + (y + 1) * copy.source.height / copy.place.height;
+            QRgb source = colorAt(from, fromX, fromY);
+            for (int alsoY = fromY; alsoY == fromY || alsoY < nextY; ++alsoY)
+                for (int alsoX = fromX; alsoX == fromX || alsoX < nextX; ++alsoX)
+                    source &= colorAt(from, alsoX, alsoY);
             const QRgb under = colorAt(to, toX, toY);
             to.setPixel(toX, toY, copy.raster == Raster::SrcCopy ? source : source & under);
         }

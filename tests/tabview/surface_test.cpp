@@ -183,16 +183,25 @@ TEST(StretchBlt, EnlargesByTheNearestPixel) {
             EXPECT_EQ(page.image().pixel(x, y), source.image().pixel(x < 4 ? 3 : 4, 2)) << x << ',' << y;
 }
 
-TEST(StretchBlt, ShrinksByTheNearestPixel) {
+QRgb combined(const QImage& image, const QRect& piece) {
+    QRgb pixel = White;
+    for (int y = piece.top(); y <= piece.bottom(); ++y)
+        for (int x = piece.left(); x <= piece.right(); ++x)
+            pixel &= image.pixel(x, y);
+    return pixel;
+}
+
+TEST(StretchBlt, ShrinksByCombiningThePixelsThatFallTogether) {
     const Surface source = numbered(30, 10);
     Surface page(3, 2, Paper);
     StretchBlt(page, {0, 0, 3, 2}, source, {0, 0, 9, 8}, Raster::SrcCopy);
     for (int x = 0; x < 3; ++x)
         for (int y = 0; y < 2; ++y)
-            EXPECT_EQ(page.image().pixel(x, y), source.image().pixel(x * 3, y * 4)) << x << ',' << y;
+            EXPECT_EQ(page.image().pixel(x, y), combined(source.image(), {x * 3, y * 4, 3, 4}))
+                << x << ',' << y;
 }
 
-TEST(StretchBlt, TakesTheNearestPixelAtEveryWidthAndScale) {
+TEST(StretchBlt, TakesItsPixelsAtEveryWidthAndScale) {
     for (const int scale : {1, 2, 3}) {
         const Surface source = numbered(30, 12, scale);
         for (const Raster raster : Rasters)
@@ -266,6 +275,29 @@ TEST(FillRect, FillsWhatLiesOnTheSurfaceAndNothingElse) {
             fillRect(page, place, 0xFF102030);
             EXPECT_EQ(page.image(), expected) << place.left << ',' << place.top << " scale " << scale;
         }
+}
+
+// A piece of one dark column and one dark row, shrunk: both are still there.
+TEST(StretchBlt, ThatShrinksKeepsEveryStroke) {
+    QImage sheet(40, 20, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    for (int y = 0; y < 20; ++y)
+        sheet.setPixel(13, y, qRgb(0, 0, 0));
+    for (int x = 0; x < 40; ++x)
+        sheet.setPixel(x, 7, qRgb(128, 128, 128));
+    const Surface from(sheet, 1);
+    for (int width = 1; width < 40; ++width) {
+        for (const int height : {3, 11, 20, 33}) {
+            Surface to(60, 60, qRgb(255, 255, 255));
+            StretchBlt(to, {2, 3, width, height}, from, {0, 0, 40, 20}, Raster::SrcAnd);
+            bool column = false, line = false;
+            for (int x = 0; x < width; ++x)
+                column = column || to.image().pixelColor(2 + x, 3).value() == 0;
+            for (int y = 0; y < height; ++y)
+                line = line || to.image().pixelColor(2, 3 + y).value() <= 128;
+            EXPECT_TRUE(column && line) << width << " by " << height;
+        }
+    }
 }
 
 } // namespace
