@@ -171,7 +171,7 @@ TEST_F(LanguageWindows, WithoutAFileAllTextsAreTheBuiltInOnes) {
 
 TEST_F(LanguageWindows, AnyFileAtAllIsNoHazard) {
     std::string binary;
-    for (int value = 0; value < 100000; ++value)
+    for (unsigned value = 0; value < 100000; ++value)
         binary.push_back(static_cast<char>(value * value % 251));
     const std::string longLine(3000000, 'x');
     for (const std::string& bytes : {std::string(), binary, longLine, std::string(2000000, '\n')}) {
