@@ -1,7 +1,7 @@
 // Carries out the driver's commands on the real program, one line in and one line of JSON out.
 #pragma once
 
-#include "app/drive/recording_services.h"
+#include "platform/recording_services.h"
 
 #include <QHash>
 #include <QJsonObject>

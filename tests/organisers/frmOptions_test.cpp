@@ -1,6 +1,8 @@
 // The options window by itself: what each control does at once, and what it does with a device that is gone.
 #include "organisers/options/frmOptions.h"
 
+#include "platform/recording_services.h"
+
 #include <QAbstractButton>
 #include <QLabel>
 #include <QTemporaryDir>
@@ -37,7 +39,7 @@ class FakeHost : public OptionsHost {
     bool oneColor = false, statistics = false, debug = false;
 };
 
-class Options : public ::testing::Test {
+class Options : public ::testing::Test, protected RecordingServices {
   protected:
     Options() {
         host.opened.TrackInstruments = {"30"};
@@ -56,21 +58,10 @@ class Options : public ::testing::Test {
     void clickRow(ListBox& rows, int row) {
         QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualItemRect(rows.item(row)).center());
     }
-    QString stored(const char* key) { return settings.GetSetting("Options", key, "nothing"); }
+    QString stored(const char* key) { return settings->GetSetting("Options", key, "nothing"); }
 
-    RecordingMessageBoxes boxes;
-    RecordingFileChooser files;
-    RecordingAddressOpener addresses;
-    MemorySettingsStore settings;
-    RecordingTextPrinter printer;
-    RecordingMidiDevice midi;
-    SystemTimerService timerService;
-    TimerList timers;
-    RecordingSynthesizer synthesizer;
     QTemporaryDir folder;
-    Services services{boxes, files,        addresses, settings,    printer,
-                      midi,  timerService, timers,    synthesizer, folder.path().toStdString(),
-                      [] {}};
+    Services services = RecordingServices::services(folder.path().toStdString(), [] {});
     FakeHost host{midi};
     std::unique_ptr<frmOptions> form;
 
@@ -88,7 +79,7 @@ TEST_F(Options, OpenTheFirstDeviceIfNoneIsStored) {
 }
 
 TEST_F(Options, OpenTheStoredDevice) {
-    settings.SaveSetting("Options", "DeviceIndex", "1");
+    settings->SaveSetting("Options", "DeviceIndex", "1");
     load();
     EXPECT_EQ(list("lst_Devices").currentRow(), 1);
     EXPECT_NE(host.output.MidiOutputHandle, 0u);
@@ -96,7 +87,7 @@ TEST_F(Options, OpenTheStoredDevice) {
 
 TEST_F(Options, LeaveTheDeviceClosedIfTheStoredOneIsGone) {
     for (const char* gone : {"2", "-1", "port", ""}) {
-        settings.SaveSetting("Options", "DeviceIndex", gone);
+        settings->SaveSetting("Options", "DeviceIndex", gone);
         load();
         EXPECT_EQ(list("lst_Devices").currentRow(), -1) << gone;
         EXPECT_EQ(host.output.MidiOutputHandle, 0u) << gone;
@@ -158,7 +149,7 @@ TEST_F(Options, ShowWhatHoldsWhenTheyLoad) {
     EXPECT_FALSE(button("Check1").isChecked());
     host.borderWidth = 2;
     host.oneColor = true;
-    settings.SaveSetting("Options", "ShowSplash", "0");
+    settings->SaveSetting("Options", "ShowSplash", "0");
     const char* const modes[] = {"PlayAllTracks", "PlayNone", "PlayCurrentTrack"};
     for (std::int16_t mode = 0; mode < 3; ++mode) {
         host.opened.RealtimeMode = mode;

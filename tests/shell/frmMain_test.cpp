@@ -1,6 +1,6 @@
 // The main window by itself: what stands still during playback, and the sharpness of the page on finer
 // screens.
-#include "core/shell/frmMain.h"
+#include "tests/shell/main_window.h"
 
 #include <QTest>
 #include <QToolButton>
@@ -10,29 +10,11 @@
 namespace tabrova {
 namespace {
 
-class MainWindow : public ::testing::Test {
+class MainWindow : public testing::MainWindowTest {
   protected:
-    MainWindow() {
-        window.resizeClient(1000, 700);
-        window.show();
-        window.Form_Load({}, frmMain::Splash::Never);
-    }
-
     bool enabled(const char* name) { return window.menu().action(name)->isEnabled(); }
 
-    RecordingMessageBoxes boxes;
-    RecordingFileChooser files;
-    RecordingAddressOpener addresses;
-    MemorySettingsStore settings;
-    RecordingTextPrinter printer;
-    RecordingMidiDevice midi;
-    SystemTimerService timerService;
-    TimerList timers;
-    RecordingSynthesizer synthesizer;
-    int ends = 0;
-    Services services{boxes,        files,  addresses,   settings, printer,           midi,
-                      timerService, timers, synthesizer, {},       [this] { ++ends; }};
-    frmMain window{services};
+    frmMain& window = load();
 };
 
 TEST_F(MainWindow, ToggleMenusHoldsTheEditorClosed) {

@@ -3,6 +3,7 @@
 
 #include "core/language/text_lines.h"
 #include "core/shell/frmMain.h"
+#include "platform/recording_services.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -11,7 +12,7 @@
 
 namespace tabrova::testing {
 
-class MainWindowTest : public ::testing::Test {
+class MainWindowTest : public ::testing::Test, protected RecordingServices {
   protected:
     MainWindowTest() {
         const std::filesystem::path assets = std::filesystem::path(TABROVA_SOURCE_DIR) / "assets";
@@ -44,18 +45,8 @@ class MainWindowTest : public ::testing::Test {
     void trigger(const char* item) { window->menu().action(item)->trigger(); }
 
     QTemporaryDir home;
-    RecordingMessageBoxes boxes;
-    RecordingFileChooser files;
-    RecordingAddressOpener addresses;
-    MemorySettingsStore settings;
-    RecordingTextPrinter printer;
-    RecordingMidiDevice midi;
-    SystemTimerService timerService;
-    TimerList timers;
-    RecordingSynthesizer synthesizer;
-    Services services{boxes,       files,    addresses,           settings,
-                      printer,     midi,     timerService,        timers,
-                      synthesizer, folder(), [] { std::abort(); }};
+    int ends = 0; // of the program, at once
+    Services services = RecordingServices::services(folder(), [this] { ++ends; });
     std::unique_ptr<frmMain> window;
 };
 

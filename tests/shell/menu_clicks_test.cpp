@@ -1,6 +1,6 @@
 // Every item of every menu by a real click of the mouse: an item with a command runs it once, one without
 // runs nothing.
-#include "core/shell/frmMain.h"
+#include "tests/shell/main_window.h"
 
 #include <QTest>
 
@@ -9,14 +9,9 @@
 namespace tabrova {
 namespace {
 
-class MenuClicks : public ::testing::Test {
+class MenuClicks : public testing::MainWindowTest {
   protected:
-    MenuClicks() {
-        window.resizeClient(1000, 700);
-        window.show();
-        window.Form_Load({}, frmMain::Splash::Never);
-        QApplication::processEvents();
-    }
+    MenuClicks() { QApplication::processEvents(); }
 
     // Opens the menus on the way to the item and clicks it.
     void click(const QList<QAction*>& way) {
@@ -65,24 +60,14 @@ class MenuClicks : public ::testing::Test {
             window.findChild<QWidget*>(panel)->hide();
     }
 
-    RecordingMessageBoxes boxes;
-    RecordingFileChooser files;
-    RecordingAddressOpener addresses;
-    MemorySettingsStore settings;
-    RecordingTextPrinter printer;
-    RecordingMidiDevice midi;
-    SystemTimerService timerService;
-    TimerList timers;
-    RecordingSynthesizer synthesizer;
-    Services services{boxes,       files, addresses,           settings, printer, midi, timerService, timers,
-                      synthesizer, {},    [] { std::abort(); }};
-    frmMain window{services};
+    frmMain& window = load();
     int items = 0;
 };
 
 TEST_F(MenuClicks, RunEveryItemThatHasACommandOnce) {
     walk(window.menuBar()->actions(), {});
     EXPECT_EQ(items, 68);
+    EXPECT_EQ(ends, 0);
 }
 
 } // namespace

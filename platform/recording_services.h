@@ -1,4 +1,5 @@
-// The five services that the driver records instead of reaching for the desktop.
+// All services as the driver and the tests have them: they keep what is asked of them and reach for nothing
+// outside.
 #pragma once
 
 #include "platform/services.h"
@@ -16,7 +17,7 @@ struct RecordingServices {
     RecordingSynthesizer synthesizer;
     SystemTimerService timerService;
     TimerList timers;
-    std::unique_ptr<SettingsStore> settings;
+    std::unique_ptr<SettingsStore> settings = std::make_unique<MemorySettingsStore>();
 
     Services services(const std::filesystem::path& folder, std::function<void()> endProgram) {
         return Services{boxes,
