@@ -3,7 +3,9 @@
 #include "core/code_page.h"
 #include "core/document_file.h"
 #include "editing/editor.h"
+#include "forms/box_title.h"
 #include "forms/code_page_text.h"
+#include "forms/text_edges.h"
 
 #include <QFileInfo>
 
@@ -13,13 +15,9 @@ namespace tabrova {
 
 namespace {
 
-const QString QuestionTitle = QStringLiteral("Tabrova for Windows");
-
 QString literal(std::string_view text) {
     return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
-
-std::filesystem::path pathOf(const QString& name) { return std::filesystem::path(name.toStdU16String()); }
 
 } // namespace
 
@@ -31,7 +29,7 @@ bool DocumentCommands::confirmLeaving() {
     const QString question =
         QString::fromStdString(words_.saveQuestion) + " " + fromCodePage(document_.Title) + "?";
     const BoxAnswer answer = services_.boxes.ask(
-        {QuestionTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}});
+        {BoxTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}});
     if (answer == BoxAnswer::Yes) mnuFileSave();
     return answer != BoxAnswer::Cancel;
 }

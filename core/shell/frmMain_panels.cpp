@@ -5,6 +5,7 @@
 #include "core/shell/key_mapping.h"
 #include "core/shell/toolbar_commands.h"
 #include "editing/key_codes.h"
+#include "forms/box_title.h"
 #include "forms/code_page_text.h"
 #include "forms/text_edges.h"
 
@@ -225,7 +226,7 @@ void frmMain::restartSoundStopper(std::optional<int> milliseconds) {
 }
 
 bool frmMain::confirmClearingOnlyStaff() {
-    const BoxAnswer answer = services_.boxes.ask({"Tabrova for Windows",
+    const BoxAnswer answer = services_.boxes.ask({BoxTitle,
                                                   QString::fromStdString(words_.clearOnlyStaffQuestion),
                                                   BoxIcon::Information,
                                                   {BoxAnswer::Yes, BoxAnswer::No}});

@@ -3,18 +3,13 @@
 #include "core/shell/frmMain.h"
 #include "core/shell/properties/track_texts.h"
 #include "core/track_table.h"
+#include "forms/box_title.h"
 #include "forms/code_page_text.h"
 #include "sound/pitch.h"
 
 #include <QWindow>
 
 namespace tabrova {
-
-namespace {
-
-const QString QuestionTitle = QStringLiteral("Tabrova for Windows");
-
-} // namespace
 
 void frmMain::connectTracks() {
     menu_->connectItem("mnuAddTrack", [this] { AddTrack(); });
@@ -41,7 +36,7 @@ void frmMain::loadInstruments() {
 // one. Any answer but No makes a percussion track.
 void frmMain::AddTrack() {
     if (playing() || !growByOneTrack(document_)) return;
-    const BoxAnswer answer = services_.boxes.ask({QuestionTitle,
+    const BoxAnswer answer = services_.boxes.ask({BoxTitle,
                                                   QString::fromStdString(words_.percussionQuestion),
                                                   BoxIcon::Question,
                                                   {BoxAnswer::Yes, BoxAnswer::No}});
@@ -56,12 +51,12 @@ void frmMain::AddTrack() {
 void frmMain::mnuKillTrack() {
     if (playing()) return;
     if (document_.TrackCount <= 1) {
-        services_.boxes.ask({QuestionTitle, QString::fromStdString(words_.onlyTrack), BoxIcon::Information});
+        services_.boxes.ask({BoxTitle, QString::fromStdString(words_.onlyTrack), BoxIcon::Information});
         return;
     }
     const QString name = fromCodePage(trackName(document_, document_.CurrentTrack));
     const QString question = QString::fromStdString(words_.removeTrackQuestion) + " '" + name + "' ?";
-    if (services_.boxes.ask({QuestionTitle, question, BoxIcon::Question, {BoxAnswer::Yes, BoxAnswer::No}}) !=
+    if (services_.boxes.ask({BoxTitle, question, BoxIcon::Question, {BoxAnswer::Yes, BoxAnswer::No}}) !=
         BoxAnswer::Yes)
         return;
     removeCurrentTrack(document_);
