@@ -4,6 +4,12 @@
 
 namespace tabrova {
 
+// In 64 bits, since a count may reach past every number of rows.
+CellGrid::Range CellGrid::held(int first, int count, int size) {
+    const std::int64_t end = static_cast<std::int64_t>(first) + count;
+    return {std::max(first, 0), static_cast<int>(std::clamp<std::int64_t>(end, 0, size))};
+}
+
 bool CellGrid::set(int column, int row, TextId id) {
     if (!contains(column, row)) return false;
     columns_[static_cast<std::size_t>(column)].set(row, id, rows_);
@@ -19,21 +25,21 @@ void CellGrid::resize(int columns, int rows) {
 }
 
 void CellGrid::clear(int first, int count, int firstRow, int rowCount) {
-    const int columnEnd = std::min(first + count, columns());
-    const int rowEnd = std::min(firstRow + rowCount, rows_);
-    firstRow = std::max(firstRow, 0);
-    for (int column = std::max(first, 0); column < columnEnd; ++column) {
+    const Range wanted = held(first, count, columns());
+    const Range rows = held(firstRow, rowCount, rows_);
+    for (int column = wanted.first; column < wanted.end; ++column) {
         CellColumn& cells = columns_[static_cast<std::size_t>(column)];
-        if (firstRow == 0 && rowEnd == rows_) {
+        if (rows.first == 0 && rows.end == rows_) {
             cells.reset();
         } else {
-            cells.clear(firstRow, rowEnd - firstRow);
+            cells.clear(rows.first, rows.end - rows.first);
         }
     }
 }
 
 void CellGrid::insertColumns(int at, int count, int end) {
-    if (at >= end) return;
+    end = std::min(end, columns());
+    if (at < 0 || count <= 0 || at >= end) return;
     const auto first = columns_.begin() + at;
     const auto last = columns_.begin() + end;
     count = std::min(count, end - at);
@@ -42,7 +48,8 @@ void CellGrid::insertColumns(int at, int count, int end) {
 }
 
 void CellGrid::removeColumns(int at, int count, int end) {
-    if (at >= end) return;
+    end = std::min(end, columns());
+    if (at < 0 || count <= 0 || at >= end) return;
     const auto first = columns_.begin() + at;
     const auto last = columns_.begin() + end;
     count = std::min(count, end - at);
@@ -51,24 +58,27 @@ void CellGrid::removeColumns(int at, int count, int end) {
 }
 
 void CellGrid::insertCells(int at, int end, int firstRow, int rowCount) {
-    if (at >= end) return;
-    CellColumn* const columns = columns_.data();
-    for (int column = end - 1; column > at; --column)
-        columns[column].copyRows(columns[column - 1], firstRow, rowCount, rows_);
-    columns[at].clear(firstRow, rowCount);
+    const Range rows = held(firstRow, rowCount, rows_);
+    const int count = rows.end - rows.first;
+    if (count <= 0) return;
+    CellColumn* const cells = columns_.data();
+    for (int column = std::clamp(end, 0, columns()) - 1; column > std::max(at, 0); --column)
+        cells[column].copyRows(cells[column - 1], rows.first, count, rows_);
+    if (at >= 0 && at < columns()) cells[at].clear(rows.first, count);
 }
 
 void CellGrid::removeRows(int first, int count) {
-    if (first < 0 || count < 0 || first + count > rows_) return;
+    if (first < 0 || count < 0 || first > rows_ - count) return;
     for (CellColumn& column : columns_)
         column.removeRows(first, count, rows_);
 }
 
 void CellGrid::copyCells(const CellGrid& source, int from, int to, int firstRow, int rowCount) {
     if (from < 0 || from >= source.columns() || to < 0 || to >= columns()) return;
-    const int rowEnd = std::min({firstRow + rowCount, rows_, source.rows_});
-    if (firstRow < 0 || firstRow >= rowEnd) return;
-    columns_[static_cast<std::size_t>(to)].copyRows(source.column(from), firstRow, rowEnd - firstRow, rows_);
+    const Range rows = held(firstRow, rowCount, std::min(rows_, source.rows_));
+    if (rows.first >= rows.end) return;
+    columns_[static_cast<std::size_t>(to)].copyRows(source.column(from), rows.first, rows.end - rows.first,
+                                                    rows_);
 }
 
 } // namespace tabrova

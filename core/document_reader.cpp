@@ -6,6 +6,9 @@ namespace tabrova {
 
 namespace {
 
+// Every text is kept once; a file of nothing but different ones would fill the memory.
+constexpr std::size_t MostTexts = 1024 * 1024;
+
 bool readText(LineReader& lines, std::string& field) {
     const auto line = lines.next();
     if (line) field = *line;
@@ -63,6 +66,7 @@ bool readGrid(LineReader& lines, TextPool& pool, CellGrid& grid) {
         if (cell == cells) break;
         const auto line = lines.next();
         if (!line) return false;
+        if (pool.size() > MostTexts) return false;
         if (!line->empty())
             grid.set(static_cast<int>(cell / rows), static_cast<int>(cell % rows), pool.intern(*line));
     }
@@ -72,7 +76,7 @@ bool readGrid(LineReader& lines, TextPool& pool, CellGrid& grid) {
 bool readBarMarks(LineReader& lines, Document& document) {
     for (int column = 0; column < document.ColumnCapacity; ++column) {
         const auto line = lines.next();
-        if (!line) return false;
+        if (!line || document.pool.size() > MostTexts) return false;
         document.setBarMark(column, *line);
     }
     return true;

@@ -1,4 +1,5 @@
 #include "core/document_file.h"
+#include "core/regular_file.h"
 
 #include <algorithm>
 #include <bit>
@@ -105,6 +106,11 @@ FileText documentText(const Document& document) {
 // content this one asks the disk for the least room, so that it fails the least. A write that fails cuts the
 // file where it came to. A file that can only be written, or is not there, is opened afresh.
 bool saveDocument(Document& document, const std::filesystem::path& path) {
+    if (isSpecialFile(path)) {
+        // As if it was opened and its first write failed.
+        document.HasFileName = True16;
+        return false;
+    }
     const FileText text = documentText(document);
     std::error_code failed;
     std::ofstream file;
@@ -119,8 +125,7 @@ bool saveDocument(Document& document, const std::filesystem::path& path) {
     file.clear();
     const auto end = file.tellp();
     file.close();
-    if (end >= 0 && std::filesystem::is_regular_file(path, failed))
-        std::filesystem::resize_file(path, static_cast<std::uintmax_t>(end), failed);
+    if (end >= 0) std::filesystem::resize_file(path, static_cast<std::uintmax_t>(end), failed);
     return written && !failed;
 }
 

@@ -27,6 +27,8 @@ bool LineReader::fill() {
     std::memmove(buffer_.data(), buffer_.data() + at_, size_ - at_);
     size_ -= at_;
     at_ = 0;
+    refused_ = size_ >= LongestLine;
+    if (refused_) return false;
     if (size_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
     input_.read(buffer_.data() + size_, static_cast<std::streamsize>(buffer_.size() - size_));
     const auto got = static_cast<std::size_t>(input_.gcount());
@@ -72,7 +74,7 @@ std::optional<std::string_view> LineReader::next() {
         searched = size_ - at_ > 0 ? size_ - at_ - 1 : 0;
         if (!fill()) break;
     }
-    if (at_ == size_) return std::nullopt;
+    if (at_ == size_ || refused_) return std::nullopt;
     std::size_t length = size_ - at_;
     // A file cut between CR and LF.
     const std::size_t halfEnd = endLength_ == 2 && buffer_[size_ - 1] == '\r' ? 1 : 0;

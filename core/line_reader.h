@@ -13,6 +13,9 @@ class LineReader {
   public:
     explicit LineReader(std::istream& input);
 
+    // A longer line is no text: the file ends before it.
+    static constexpr std::size_t LongestLine = 16 * 1024 * 1024;
+
     // The next line without its end, or std::nullopt at the end of the file. A last line need not be ended.
     // The view lasts until the next call.
     std::optional<std::string_view> next();
@@ -32,6 +35,7 @@ class LineReader {
     std::size_t size_ = 0;
     std::size_t endLength_ = 2;
     bool atEnd_ = false;
+    bool refused_ = false; // a line was too long
 };
 
 } // namespace tabrova

@@ -51,7 +51,7 @@ void removeCurrentTrack(Document& document) {
         eraseRows(*list, row, 1);
     eraseRows(document.GuitarTrackFlags, row, 1);
     // The table keeps its length until the grids shrink.
-    if (firstString + StringsPerTrack < std::ssize(document.TuningTable))
+    if (firstString >= 0 && firstString + StringsPerTrack < std::ssize(document.TuningTable))
         std::move(document.TuningTable.begin() + firstString + StringsPerTrack, document.TuningTable.end(),
                   document.TuningTable.begin() + firstString);
     document.NoteGrid.removeRows(firstString, StringsPerTrack);

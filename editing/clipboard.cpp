@@ -20,7 +20,9 @@ void moveOneColumn(Document& document, int end, RowRange rows) {
 void makeRoom(Document& document, Rows rows) {
     GetCurrentXPosition(document);
     const int at = document.CurrentColumn;
-    int end = document.StaffCount * ColumnsPerStaff + 1;
+    const int last = document.StaffCount * ColumnsPerStaff;
+    if (last > at) EnsureRoomForInsert(document, rows);
+    int end = std::min(last, document.ColumnCapacity) + 1;
     constexpr int MovesThatMayNeedRoom = 3;
     for (int move = 0; move < MovesThatMayNeedRoom && end - 1 > at; ++move) {
         EnsureRoomForInsert(document, rows);
@@ -54,7 +56,8 @@ void CopyData(Document& document, int firstRow, int lastRow) {
         document.ClipboardNotes.copyCells(document.NoteGrid, column, i, firstRow, lastRow - firstRow);
         document.ClipboardTechniques.copyCells(document.TechniqueGrid, column, i, firstRow,
                                                lastRow - firstRow);
-        if (column < static_cast<int>(document.BarMarkRow.size()))
+        // Both lists have a cell for every column of the grids.
+        if (column >= 0 && column < document.ColumnCapacity && i < document.ColumnCapacity)
             document.ClipboardBarMarks[static_cast<std::size_t>(i)] =
                 document.BarMarkRow[static_cast<std::size_t>(column)];
     }

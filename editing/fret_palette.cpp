@@ -1,5 +1,7 @@
 #include "editing/fret_palette.h"
 
+#include <cstdint>
+
 namespace tabrova {
 
 namespace {
@@ -23,7 +25,8 @@ Rect paletteHighlight(const Rect& highlight, int x, int y) {
     constexpr int CellsBegin = 10;
     if (y < CellsBegin) return highlight;
     Rect place = highlight;
-    place.left = (x - 4) / CellSize * CellSize + FirstLeft;
+    // In 64 bits: the pointer may be anywhere.
+    place.left = static_cast<int>((std::int64_t{x} - 4) / CellSize * CellSize + FirstLeft);
     place.top = (y - 20) / CellSize * CellSize + FirstTop;
     return place;
 }

@@ -25,6 +25,7 @@ void clearMarks(Document& document, int first, int count) {
 // Marks `at` to `end` - `count` - 1 move to the right; the ones at `at` stay as they are.
 void moveMarksRight(Document& document, int at, int count, int end) {
     auto& marks = document.BarMarkRow;
+    at = std::max(at, 0);
     end = std::min(end, static_cast<int>(marks.size()));
     if (at + count >= end) return;
     std::move_backward(marks.begin() + at, marks.begin() + end - count, marks.begin() + end);
@@ -32,32 +33,51 @@ void moveMarksRight(Document& document, int at, int count, int end) {
 
 void moveMarksLeft(Document& document, int at, int count) {
     auto& marks = document.BarMarkRow;
+    at = std::max(at, 0);
     if (at + count > static_cast<int>(marks.size())) return;
     std::move(marks.begin() + at + count, marks.end(), marks.begin() + at);
 }
 
-// Room for staves: 32 empty columns at `at`.
+// Columns up to one behind the last staff take part in a move to the right: where the grids hold that column
+// too, it takes its left neighbour.
+int behindLastMove(const Document& document) { return document.StaffCount * ColumnsPerStaff + 1; }
+
+bool coversAllRows(const CellGrid& grid, RowRange rows) {
+    return rows.first <= 0 && rows.first + rows.count >= grid.rows();
+}
+
+// Room for a staff. Before the first column there is nothing to empty: all columns move, and the first ones
+// stay as well.
+void insertStaffColumns(CellGrid& grid, int at) {
+    if (at >= 0) return grid.insertColumns(at, ColumnsPerStaff, grid.columns());
+    for (int column = grid.columns() - 1; column >= ColumnsPerStaff; --column)
+        grid.copyCells(grid, column - ColumnsPerStaff, column, 0, grid.rows());
+}
+
+// 32 empty columns at `at`.
 bool insertStaff(Document& document, int at) {
     if (!growByOneStaff(document)) return false;
     const int end = document.ColumnCapacity;
-    document.NoteGrid.insertColumns(at, ColumnsPerStaff, end);
-    document.TechniqueGrid.insertColumns(at, ColumnsPerStaff, end);
+    insertStaffColumns(document.NoteGrid, at);
+    insertStaffColumns(document.TechniqueGrid, at);
     moveMarksRight(document, at, ColumnsPerStaff, end);
     clearMarks(document, at, ColumnsPerStaff);
     return true;
 }
 
-// The last column keeps its cells.
-void moveCellsLeft(CellGrid& grid, int at, RowRange rows) {
-    const int last = grid.columns() - 1;
-    if (at >= last) return;
-    if (rows.first == 0 && rows.count == grid.rows()) {
-        grid.removeColumns(at, 1, last + 1);
-        grid.copyCells(grid, last - 1, last, rows.first, rows.count);
+// The columns behind `at` + `count` - 1 move to the left. The last `count` columns keep their cells.
+void moveCellsLeft(CellGrid& grid, int at, int count, RowRange rows) {
+    at = std::max(at, 0);
+    const int behindMoved = grid.columns() - count;
+    if (at >= behindMoved) return;
+    if (coversAllRows(grid, rows) && at <= behindMoved - count) {
+        grid.removeColumns(at, count, grid.columns());
+        for (int column = behindMoved - count; column < behindMoved; ++column)
+            grid.copyCells(grid, column, column + count, rows.first, rows.count);
         return;
     }
-    for (int column = at; column < last; ++column)
-        grid.copyCells(grid, column + 1, column, rows.first, rows.count);
+    for (int column = at; column < behindMoved; ++column)
+        grid.copyCells(grid, column + count, column, rows.first, rows.count);
 }
 
 } // namespace
@@ -69,7 +89,8 @@ RowRange rowsOf(const Document& document, Rows rows) {
 
 void makeRoomForColumn(CellGrid& grid, int at, int end, RowRange rows) {
     end = std::min(end, grid.columns());
-    if (rows.first == 0 && rows.count == grid.rows()) return grid.insertColumns(at, 1, end);
+    const bool whole = coversAllRows(grid, rows) && at >= 0 && at < end;
+    if (whole) return grid.insertColumns(at, 1, end);
     grid.insertCells(at, end, rows.first, rows.count);
 }
 
@@ -93,8 +114,10 @@ bool newStaffBeforeCurrent(Document& document) { return insertStaff(document, st
 
 void deleteCurrentStaff(Document& document) {
     const int at = staffStart(document);
-    document.NoteGrid.removeColumns(at, ColumnsPerStaff, document.ColumnCapacity);
-    document.TechniqueGrid.removeColumns(at, ColumnsPerStaff, document.ColumnCapacity);
+    const RowRange rows = rowsOf(document, Rows::AllTracks);
+    clearStaff(document, {Rows::AllTracks, true, true, true});
+    moveCellsLeft(document.NoteGrid, at, ColumnsPerStaff, rows);
+    moveCellsLeft(document.TechniqueGrid, at, ColumnsPerStaff, rows);
     moveMarksLeft(document, at, ColumnsPerStaff);
     --document.StaffCount;
     ResizeGrids(document, document.ColumnCapacity - ColumnsPerStaff, document.RowCapacity);
@@ -104,7 +127,7 @@ void InsertColumn(Document& document, Rows rows) {
     EnsureRoomForInsert(document, rows);
     GetCurrentXPosition(document);
     const int at = document.CurrentColumn;
-    const int end = document.StaffCount * ColumnsPerStaff;
+    const int end = behindLastMove(document);
     makeRoomForColumn(document.NoteGrid, at, end, rowsOf(document, rows));
     makeRoomForColumn(document.TechniqueGrid, at, end, rowsOf(document, rows));
     if (rows == Rows::AllTracks) moveMarksRight(document, at, 1, end);
@@ -113,15 +136,16 @@ void InsertColumn(Document& document, Rows rows) {
 void RemoveColumn(Document& document, Rows rows) {
     GetCurrentXPosition(document);
     const int at = document.CurrentColumn;
-    moveCellsLeft(document.NoteGrid, at, rowsOf(document, rows));
-    moveCellsLeft(document.TechniqueGrid, at, rowsOf(document, rows));
+    moveCellsLeft(document.NoteGrid, at, 1, rowsOf(document, rows));
+    moveCellsLeft(document.TechniqueGrid, at, 1, rowsOf(document, rows));
     if (rows == Rows::AllTracks) moveMarksLeft(document, at, 1);
 }
 
 void InsertColumnAfterCursor(Document& document) {
     EnsureRoomForInsert(document, Rows::AllTracks);
-    const int at = document.CurrentColumn + 1;
-    const int end = document.StaffCount * ColumnsPerStaff;
+    const int at = std::max(document.CurrentColumn + 1, 0);
+    const int end = behindLastMove(document);
+    if (at + 1 >= end) return;
     const RowRange rows = rowsOf(document, Rows::CurrentTrack);
     makeRoomForColumn(document.NoteGrid, at, end, rows);
     makeRoomForColumn(document.TechniqueGrid, at, end, rows);
@@ -131,8 +155,8 @@ void InsertColumnAfterCursor(Document& document) {
 void RemoveColumnAfterCursor(Document& document) {
     const int at = document.CurrentColumn + 1;
     const RowRange rows = rowsOf(document, Rows::CurrentTrack);
-    moveCellsLeft(document.NoteGrid, at, rows);
-    moveCellsLeft(document.TechniqueGrid, at, rows);
+    moveCellsLeft(document.NoteGrid, at, 1, rows);
+    moveCellsLeft(document.TechniqueGrid, at, 1, rows);
     moveMarksLeft(document, at, 1);
 }
 
@@ -142,7 +166,7 @@ namespace {
 void removeColumnsAfterCursor(Document& document, int count) {
     const RowRange rows = rowsOf(document, Rows::CurrentTrack);
     const int last = document.lastColumn();
-    for (int column = document.CurrentColumn + 1; column < last; ++column) {
+    for (int column = std::max(document.CurrentColumn + 1, 0); column < last; ++column) {
         const int from = std::min(column + count, last);
         document.NoteGrid.copyCells(document.NoteGrid, from, column, rows.first, rows.count);
         document.TechniqueGrid.copyCells(document.TechniqueGrid, from, column, rows.first, rows.count);

@@ -5,6 +5,10 @@
 
 #include <QImage>
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
 namespace tabrova {
 
 struct Rect {
@@ -13,9 +17,17 @@ struct Rect {
     int width = 0;
     int height = 0;
 
-    int right() const { return left + width; }
-    int bottom() const { return top + height; }
+    // Places beyond the numbers' range stop at its end.
+    int right() const { return edge(left, width); }
+    int bottom() const { return edge(top, height); }
     bool operator==(const Rect&) const = default;
+
+  private:
+    static int edge(int from, int length) {
+        using Numbers = std::numeric_limits<int>;
+        const std::int64_t place = static_cast<std::int64_t>(from) + length;
+        return static_cast<int>(std::clamp<std::int64_t>(place, Numbers::min(), Numbers::max()));
+    }
 };
 
 struct Line {

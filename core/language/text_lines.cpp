@@ -1,20 +1,21 @@
 #include "core/language/text_lines.h"
 
 #include "core/code_page.h"
+#include "core/regular_file.h"
 
-#include <fstream>
 #include <optional>
 
 namespace tabrova {
+
+namespace fs = std::filesystem;
 
 namespace {
 
 constexpr std::size_t MostBytes = 4 * 1024 * 1024;
 
 std::string readBytes(const std::filesystem::path& file) {
-    std::error_code failed;
-    if (!std::filesystem::is_regular_file(file, failed)) return {};
-    std::ifstream input(file, std::ios::binary);
+    RegularFile input(file);
+    if (!input) return {};
     std::string bytes(MostBytes, '\0');
     input.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(input.gcount()));
@@ -60,6 +61,15 @@ std::vector<std::string> split(std::string_view bytes, std::size_t mostLines) {
 }
 
 } // namespace
+
+void copyTextFile(const fs::path& from, const fs::path& to) {
+    std::error_code failed;
+    if (!RegularFile(from, MostBytes) ||
+        fs::copy_file(from, to, fs::copy_options::overwrite_existing, failed))
+        return;
+    std::error_code passedOver;
+    if (failed) fs::remove(to, passedOver);
+}
 
 std::vector<std::string> readTextLines(const std::filesystem::path& file, std::size_t mostLines) {
     constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";

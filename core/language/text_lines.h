@@ -14,4 +14,8 @@ namespace tabrova {
 // file that is not there, cannot be read or is no regular file.
 std::vector<std::string> readTextLines(const std::filesystem::path& file, std::size_t mostLines);
 
+// Puts a copy in the place of `to`. What could not be read so, and a file of more than four megabytes, is not
+// copied; a copy that fails leaves no file behind.
+void copyTextFile(const std::filesystem::path& from, const std::filesystem::path& to);
+
 } // namespace tabrova

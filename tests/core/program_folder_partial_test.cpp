@@ -1,6 +1,7 @@
 // One entry that cannot be copied is passed over alone: what stands beside it still comes, in whatever order
 // the folder is listed.
 #include "core/program_folder.h"
+#include "tests/core/file_size_limit.h"
 #include "tests/core/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,29 @@ TEST(ProgramFolderFilling, AFileInTheWayOfAFolderKeepsNothingElseBack) {
     for (const char* name : {"a", "b", "c", "d", "e"})
         EXPECT_TRUE(fs::exists(to / (std::string(name) + ".txt"))) << name;
     EXPECT_TRUE(fs::is_regular_file(to / "c"));
+}
+
+// A disk that is full at the first start and has room at the second.
+TEST(ProgramFolderFilling, WhatAFullDiskKeptBackComesAtTheNextStart) {
+    const testing::TemporaryFolder temporary;
+    const fs::path shared = temporary.path() / "shared", user = temporary.path() / "user";
+    fs::create_directories(shared / "languages" / "Deutsch");
+    std::ofstream(shared / "languages" / "Deutsch" / "lang.trl") << std::string(3000, 'd');
+    std::ofstream(shared / "genmidi.txt") << std::string(100, 'g');
+    const ProgramFolderSources sources = {std::nullopt, temporary.path() / "bin", user, shared};
+    for (const rlim_t room : {0u, 50u, 1000u}) {
+        fs::remove_all(user);
+        {
+            const testing::FileSizeLimit full(room);
+            programFolder(sources);
+        }
+        EXPECT_FALSE(fs::exists(user / "languages" / "Deutsch" / "lang.trl")) << room;
+        EXPECT_EQ(fs::exists(user / "genmidi.txt"), room >= 100) << room;
+        if (room >= 100) continue; // what came is used from now on
+        programFolder(sources);
+        EXPECT_EQ(fs::file_size(user / "languages" / "Deutsch" / "lang.trl"), 3000u) << room;
+        EXPECT_EQ(fs::file_size(user / "genmidi.txt"), 100u) << room;
+    }
 }
 
 } // namespace

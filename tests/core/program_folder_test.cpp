@@ -21,6 +21,12 @@ class ProgramFolder : public ::testing::Test {
         std::ofstream(root_ / "shared" / "languages" / "Deutsch" / "lang.trl") << "Datei";
     }
 
+    static std::string textOf(const fs::path& path) {
+        std::string text;
+        std::ifstream(path) >> text;
+        return text;
+    }
+
     testing::TemporaryFolder temporary_;
     const fs::path root_ = temporary_.path();
     ProgramFolderSources sources_;
@@ -51,10 +57,7 @@ TEST_F(ProgramFolder, WhatTheUserDeletedOrChangedStays) {
     programFolder(sources_);
     EXPECT_FALSE(fs::exists(root_ / "user" / "genmidi.txt"));
     fillFromSharedData(sources_.sharedData, root_ / "user");
-    std::ifstream file(root_ / "user" / "languages" / "Deutsch" / "lang.trl");
-    std::string text;
-    file >> text;
-    EXPECT_EQ(text, "Mine");
+    EXPECT_EQ(textOf(root_ / "user" / "languages" / "Deutsch" / "lang.trl"), "Mine");
 }
 
 TEST_F(ProgramFolder, MissingSharedDataIsPassedOver) {
@@ -80,10 +83,47 @@ TEST_F(ProgramFolder, TheUsersFolderIsMadeWithItsParents) {
     EXPECT_TRUE(fs::is_regular_file(root_ / "a" / "b" / "c" / "genmidi.txt"));
 }
 
-TEST_F(ProgramFolder, AUsersFolderThatIsThereIsNotFilledAgain) {
-    fs::create_directories(root_ / "user");
+TEST_F(ProgramFolder, AUsersFolderInWhichSomethingStandsIsNotFilledAgain) {
+    fs::create_directories(root_ / "user" / "chords");
+    std::ofstream(root_ / "user" / "chords" / "E major") << "022100";
     EXPECT_EQ(programFolder(sources_), root_ / "user");
-    EXPECT_TRUE(fs::is_empty(root_ / "user"));
+    EXPECT_FALSE(fs::exists(root_ / "user" / "genmidi.txt"));
+    EXPECT_FALSE(fs::exists(root_ / "user" / "languages"));
+}
+
+TEST_F(ProgramFolder, AnEmptyUsersFolderIsFilled) {
+    fs::create_directories(root_ / "user" / "languages" / "Italiano");
+    programFolder(sources_);
+    EXPECT_TRUE(fs::is_regular_file(root_ / "user" / "genmidi.txt"));
+    EXPECT_TRUE(fs::is_regular_file(root_ / "user" / "languages" / "Deutsch" / "lang.trl"));
+}
+
+TEST_F(ProgramFolder, FilesOfNoBytesFromAFullDiskAreReplacedAtTheNextStart) {
+    programFolder(sources_);
+    const fs::path language = root_ / "user" / "languages" / "Deutsch" / "lang.trl";
+    fs::resize_file(language, 0);
+    std::ofstream(root_ / "user" / "own.txt");
+    programFolder(sources_);
+    EXPECT_EQ(textOf(language), "Datei");
+    EXPECT_EQ(fs::file_size(root_ / "user" / "own.txt"), 0u); // nothing to replace it by
+    for (const char* name : {"genmidi.txt", "languages/Deutsch/lang.trl"})
+        fs::resize_file(root_ / "user" / name, 0);
+    fs::remove(root_ / "user" / "own.txt");
+    programFolder(sources_);
+    EXPECT_EQ(textOf(root_ / "user" / "genmidi.txt"), "Piano");
+    EXPECT_EQ(textOf(language), "Datei");
+}
+
+// The file that a link leads to may be anybody's.
+TEST_F(ProgramFolder, NothingIsWrittenThroughALink) {
+    programFolder(sources_);
+    std::ofstream(root_ / "elsewhere");
+    fs::remove(root_ / "user" / "genmidi.txt");
+    fs::create_symlink(root_ / "elsewhere", root_ / "user" / "genmidi.txt");
+    programFolder(sources_);
+    fs::remove(root_ / "elsewhere");
+    programFolder(sources_);
+    EXPECT_FALSE(fs::exists(root_ / "elsewhere"));
 }
 
 TEST_F(ProgramFolder, AUsersFolderThatCannotBeMadeIsPassedOver) {

@@ -62,7 +62,9 @@ class PlainGrid {
 
     int here() const { return staff * 32 - 32 + columnInStaff; }
 
+    // Sizes that there cannot be change nothing.
     void resizeGrids(int columns, int rows) {
+        if (columns < 0 || rows < 0) return;
         columnCapacity = columns;
         rowCapacity = rows;
         resizeCells(notes, columns, rows);
@@ -74,9 +76,12 @@ class PlainGrid {
         tuning.resize(static_cast<std::size_t>(rows), 0);
     }
 
-    void appendStaff() {
+    // False, with nothing changed, for rows that there cannot be.
+    bool appendStaff() {
+        if (trackCount < 0) return false;
         ++staffCount;
         resizeGrids(columnCapacity + 32, trackCount * 6);
+        return true;
     }
 
     // The grids' part of a new document: the clipboard stays, as far as its rows fit.
@@ -98,18 +103,20 @@ class PlainGrid {
         }
     }
 
-    void newStaffAfterCurrent() {
-        appendStaff();
+    bool newStaffAfterCurrent() {
+        if (!appendStaff()) return false;
         moveStaffRight(staff * 32);
         ++staff;
         clear(true, true, true, true);
         --staff;
+        return true;
     }
 
-    void newStaffBeforeCurrent() {
-        appendStaff();
+    bool newStaffBeforeCurrent() {
+        if (!appendStaff()) return false;
         moveStaffRight(staff * 32 - 32);
         clear(true, true, true, true);
+        return true;
     }
 
     // For two staves or more; the cursor is still to be brought back.
