@@ -1,10 +1,13 @@
 // The program: `tabrova [DOCUMENT]`.
+#include "app/command_line.h"
 #include "app/program.h"
 #include "core/shell/frmMain.h"
+#include "platform/paths.h"
 #include "sound/devices/system_midi_device.h"
 
 #include <QApplication>
 
+#include <cstdio>
 #include <cstdlib>
 
 namespace {
@@ -12,19 +15,30 @@ namespace {
 // Where the sound bank may stand for this user.
 tabrova::SoundBankPlaces bankPlaces(const tabrova::SettingsStore& settings,
                                     const std::filesystem::path& ownFolder) {
-    const auto path = [](const QString& text) { return std::filesystem::path(text.toStdU16String()); };
-    return {path(settings.GetSetting("Options", "SoundBank", "")),
-            path(qEnvironmentVariable("TABROVA_SOUNDFONT")), ownFolder, tabrova::systemBankFolders()};
+    return {tabrova::pathOf(settings.GetSetting("Options", "SoundBank", "")),
+            tabrova::environmentPath("TABROVA_SOUNDFONT"), ownFolder, tabrova::systemBankFolders()};
+}
+
+// An answer goes to the standard output, a complaint to the error output.
+int tellTerminal(const tabrova::CommandLine& commandLine) {
+    const int code = commandLine.exitCode.value_or(EXIT_FAILURE);
+    std::fputs(commandLine.told.toLocal8Bit().constData(), code == EXIT_SUCCESS ? stdout : stderr);
+    return code;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+    // Answered before the application object, which needs a display.
+    const tabrova::CommandLine asked =
+        tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
+    if (asked.exitCode) return tellTerminal(asked);
     tabrova::prepareToolkit();
     QApplication application(argc, argv);
     tabrova::DesktopMessageBoxes boxes;
     tabrova::DesktopFileChooser files;
     tabrova::DesktopAddressOpener addresses;
+    tabrova::keepToolkitInsideHome();
     tabrova::DesktopSettingsStore settings;
     tabrova::DesktopTextPrinter printer;
     const std::filesystem::path folder = tabrova::ownFolder();
@@ -39,7 +53,10 @@ int main(int argc, char** argv) {
     tabrova::frmMain window(services);
     window.resizeClient(1000, 700);
     window.show();
-    // A path with blanks may come in pieces.
-    window.Form_Load(QApplication::arguments().mid(1).join(' '), tabrova::frmMain::Splash::AsSettingsSay);
+    // Without the words that were the toolkit's.
+    const tabrova::CommandLine commandLine =
+        tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
+    tellTerminal(commandLine);
+    window.Form_Load(commandLine.document, tabrova::frmMain::Splash::AsSettingsSay);
     return QApplication::exec();
 }

@@ -1,18 +1,12 @@
 #include "app/program.h"
 
 #include "core/program_folder.h"
+#include "platform/paths.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QStandardPaths>
 
 namespace tabrova {
-
-namespace {
-
-std::filesystem::path pathOf(const QString& text) { return std::filesystem::path(text.toStdU16String()); }
-
-} // namespace
 
 void prepareToolkit() {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
@@ -30,11 +24,10 @@ std::filesystem::path sharedDataFolder() {
 
 std::filesystem::path ownFolder() {
     ProgramFolderSources sources;
-    const QString home = qEnvironmentVariable("TABROVA_HOME");
-    if (!home.isEmpty()) sources.home = pathOf(home);
+    const std::filesystem::path home = environmentPath("TABROVA_HOME");
+    if (!home.empty()) sources.home = home;
     sources.executableFolder = pathOf(QCoreApplication::applicationDirPath());
-    sources.userDataFolder =
-        pathOf(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "tabrova";
+    sources.userDataFolder = userDataFolder() / "tabrova";
     sources.sharedData = sharedDataFolder();
     return programFolder(sources);
 }

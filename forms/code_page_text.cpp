@@ -1,9 +1,9 @@
 #include "forms/code_page_text.h"
 
 #include "core/code_page.h"
+#include "forms/plain_tool_tips.h"
 
 #include <QLineEdit>
-#include <QToolTip>
 
 namespace tabrova {
 
@@ -13,6 +13,11 @@ QString fromCodePage(const std::string& bytes) {
     for (const char c : bytes)
         text.append(QChar(static_cast<char16_t>(codePointOf(static_cast<unsigned char>(c)))));
     return text;
+}
+
+QString shownName(const std::string& bytes) {
+    const QString text = fromCodePage(bytes.substr(0, LongestShownName));
+    return bytes.size() > LongestShownName ? text + QChar(0x2026) : text;
 }
 
 std::string toCodePage(const QString& text) {
@@ -35,7 +40,7 @@ QValidator::State CodePageValidator::validate(QString& text, int&) const {
 void restrictToCodePage(QLineEdit& box, std::function<QString()> hint) {
     box.setValidator(new CodePageValidator(&box));
     QObject::connect(&box, &QLineEdit::inputRejected, &box, [&box, hint = std::move(hint)] {
-        QToolTip::showText(box.mapToGlobal(QPoint(0, box.height())), hint(), &box);
+        showPlainHint(box.mapToGlobal(QPoint(0, box.height())), hint(), &box);
     });
 }
 

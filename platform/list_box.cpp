@@ -5,7 +5,8 @@
 
 namespace tabrova {
 
-ListBox::ListBox(const QString& name, QWidget* parent) : QListWidget(parent) {
+ListBox::ListBox(const QString& name, QWidget* parent, KeyClick keyClick)
+    : QListWidget(parent), keyClick_(keyClick) {
     setObjectName(name);
     setUniformItemSizes(true);
     QObject::connect(this, &QListWidget::itemClicked, this, [this] { raiseClick(); });
@@ -50,11 +51,16 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
         if (chosenRow() >= 0) DoubleClick();
         return;
     }
+    if (keyClick_ == KeyClick::AtEnter && (entered || event->key() == Qt::Key_Space)) {
+        // A key that is still held down from before has chosen nothing here.
+        if (chosenRow() >= 0 && !event->isAutoRepeat()) raiseClick();
+        return;
+    }
     const int before = currentRow();
     const bool nothingChosen = selectedItems().isEmpty();
     QListWidget::keyPressEvent(event);
     const bool chosenNow = nothingChosen && !selectedItems().isEmpty();
-    if (currentRow() != before || chosenNow) raiseClick();
+    if (keyClick_ == KeyClick::AtMove && (currentRow() != before || chosenNow)) raiseClick();
 }
 
 } // namespace tabrova

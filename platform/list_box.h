@@ -1,5 +1,6 @@
 // A list with one Click event for each act of the user: a mouse click, also on the row that is chosen
-// already, and a move of the selection by keys. A selection by the program raises none.
+// already, and a move of the selection by keys, or, where a choice ends the list, Return, Enter or Space. A
+// selection by the program raises none.
 #pragma once
 
 #include <QListWidget>
@@ -10,7 +11,9 @@ namespace tabrova {
 
 class ListBox : public QListWidget {
   public:
-    ListBox(const QString& name, QWidget* parent);
+    enum class KeyClick { AtMove, AtEnter };
+
+    ListBox(const QString& name, QWidget* parent, KeyClick keyClick = KeyClick::AtMove);
 
     // The chosen row; -1 if none is. The toolkit's current row may be one that only has the keyboard.
     int chosenRow() const { return selectedItems().isEmpty() ? -1 : currentRow(); }
@@ -31,6 +34,7 @@ class ListBox : public QListWidget {
   private:
     void raiseClick();
 
+    KeyClick keyClick_;
     int rowAtPress_ = -1;
     bool raised_ = false;
 };

@@ -1,8 +1,15 @@
 #include "platform/settings_store.h"
 
 #include <QSettings>
+#include <QStandardPaths>
 
 namespace tabrova {
+
+void keepToolkitInsideHome() {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    if (folder.contains(QChar::ReplacementCharacter))
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
+}
 
 DesktopSettingsStore::DesktopSettingsStore()
     : settings_(std::make_unique<QSettings>(SettingsApplication, SettingsApplication)) {}

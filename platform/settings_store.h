@@ -21,6 +21,10 @@ class SettingsStore {
     virtual void SaveSetting(const QString& section, const QString& key, const QString& value) = 0;
 };
 
+// Before the first store. A home whose name is no text keeps no settings: the toolkit would put them, and its
+// own, into another folder.
+void keepToolkitInsideHome();
+
 // The desktop's own store, or a file in its "ini" form.
 class DesktopSettingsStore : public SettingsStore {
   public:

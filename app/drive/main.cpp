@@ -1,9 +1,11 @@
 // tabrova-drive: the real program, worked from a script on standard input.
+#include "app/command_line.h"
 #include "app/drive/driver.h"
 #include "app/drive/line_queue.h"
 #include "app/program.h"
 #include "core/program_folder.h"
 #include "core/shell/frmMain.h"
+#include "platform/paths.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -33,7 +35,7 @@ struct Arguments {
     QString document;
 };
 
-Arguments readArguments() {
+Arguments readArguments(const QStringList& words) {
     QCommandLineParser parser;
     parser.addOptions({{"home", "The program's own folder.", "DIR"},
                        {"settings", "Settings in this file.", "FILE.ini"},
@@ -41,12 +43,12 @@ Arguments readArguments() {
                        {"splash", "Show the welcome window if the settings say so."}});
     parser.addPositionalArgument("DOCUMENT", "A document to open.");
     parser.addHelpOption();
-    parser.process(*QCoreApplication::instance());
+    parser.process(QStringList("tabrova-drive") + words);
     Arguments arguments;
     arguments.home = parser.value("home");
     arguments.settings = parser.value("settings");
     arguments.splash = parser.isSet("splash");
-    arguments.document = parser.positionalArguments().join(' ');
+    arguments.document = readCommandLine(parser.positionalArguments(), isThere).document;
     const QStringList sides = parser.value("size").split('x');
     if (sides.size() == 2) arguments.size = {sides[0].toInt(), sides[1].toInt()};
     return arguments;
@@ -77,14 +79,14 @@ int main(int argc, char** argv) {
     prepareToolkit();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const Arguments arguments = readArguments();
+    const Arguments arguments = readArguments(commandLineWords(argc, argv));
     QTemporaryDir ownHome;
-    if (arguments.home.isEmpty()) fillFromSharedData(sharedDataFolder(), ownHome.path().toStdString());
+    if (arguments.home.isEmpty()) fillFromSharedData(sharedDataFolder(), pathOf(ownHome.path()));
 
     RecordingServices recording;
     recording.settings = openSettings(arguments.settings);
     const QString home = arguments.home.isEmpty() ? ownHome.path() : arguments.home;
-    Services services = recording.services(home.toStdString(), [&recording, &ownHome] {
+    Services services = recording.services(pathOf(home), [&recording, &ownHome] {
         writeLine({{"ended", true}, {"boxes", takeBoxes(recording.boxes)}});
         ownHome.remove();
         std::_Exit(FatalStatus);

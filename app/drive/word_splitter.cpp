@@ -10,7 +10,8 @@ QStringList splitWords(const QString& line) {
     for (qsizetype i = 0; i < line.size(); ++i) {
         const QChar c = line[i];
         if (quoted && c == '\\' && i + 1 < line.size()) {
-            word.append(line[++i]);
+            const QChar escaped = line[++i];
+            word.append(escaped == 'n' ? QChar('\n') : escaped);
         } else if (c == '"') {
             quoted = !quoted;
             started = true;

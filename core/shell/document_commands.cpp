@@ -1,15 +1,11 @@
 #include "core/shell/document_commands.h"
 
-#include "core/code_page.h"
 #include "core/document_file.h"
+#include "core/regular_file.h"
 #include "editing/editor.h"
 #include "forms/box_title.h"
 #include "forms/code_page_text.h"
-#include "forms/text_edges.h"
-
-#include <QFileInfo>
-
-#include <fstream>
+#include "platform/paths.h"
 
 namespace tabrova {
 
@@ -27,7 +23,7 @@ DocumentCommands::DocumentCommands(Document& document, Editor& editor, Services&
 
 bool DocumentCommands::confirmLeaving() {
     const QString question =
-        QString::fromStdString(words_.saveQuestion) + " " + fromCodePage(document_.Title) + "?";
+        QString::fromStdString(words_.saveQuestion) + " " + shownName(document_.Title) + "?";
     const BoxAnswer answer = services_.boxes.ask(
         {BoxTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}});
     if (answer == BoxAnswer::Yes) mnuFileSave();
@@ -72,16 +68,14 @@ void DocumentCommands::OpenDocNoConfirm(bool showDialog) {
 
 // A failure on the way ends it without a word, with what was read so far and no redraw.
 void DocumentCommands::readNamedDocument() {
-    const std::filesystem::path path = pathOf(CommonDialog1.fileName);
-    std::error_code failed;
-    std::ifstream file(path, std::ios::binary);
-    if (!file || std::filesystem::is_directory(path, failed)) return;
+    RegularFile file(pathOf(CommonDialog1.fileName), LargestDocumentFile);
+    if (!file) return;
     editor_.MakeNewDocument();
     const bool whole = readDocument(document_, file);
     host_.tracksReplaced();
     if (!whole) return;
     editor_.refreshdrawing();
-    host_.setTrackPanel(utf8FromCodePage(document_.TrackNames.front()) + " " + words_.selectedTrack);
+    host_.setTrackPanel(shownName(document_.TrackNames.front()).toStdString() + " " + words_.selectedTrack);
     editor_.SetDebugLabel();
 }
 
@@ -93,8 +87,11 @@ void DocumentCommands::OpenCommandLineDocument(const QString& path) {
         editor_.MakeNewDocument();
         return;
     }
-    const QFileInfo file(quoted ? path.mid(1, path.size() - 2) : path);
-    CommonDialog1.fileName = file.exists() ? file.absoluteFilePath() : QString();
+    const std::filesystem::path file = pathOf(quoted ? path.mid(1, path.size() - 2) : path);
+    std::error_code failed;
+    const std::filesystem::path whole = std::filesystem::absolute(file, failed);
+    const bool there = !file.empty() && std::filesystem::exists(whole, failed);
+    CommonDialog1.fileName = there ? textOf(whole.lexically_normal()) : QString();
     OpenDocNoConfirm(false);
 }
 

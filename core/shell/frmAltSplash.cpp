@@ -156,6 +156,7 @@ frmAltSplash::frmAltSplash(const std::filesystem::path& programFolder, QWidget* 
     }
     lblTooltip_ = new QLabel(DefaultTooltip, this);
     lblTooltip_->setObjectName("lblTooltip");
+    lblTooltip_->setTextFormat(Qt::PlainText);
     lblTooltip_->setAlignment(Qt::AlignCenter);
     lblTooltip_->setStyleSheet("color: #F4EFE0; font-size: 15px");
     lblTooltip_->setGeometry(0, OptionTop + OptionSize + 24, PictureWidth, 30);

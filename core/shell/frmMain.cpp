@@ -3,6 +3,7 @@
 #include "core/document_operations.h"
 #include "core/shell/frmAbout.h"
 #include "forms/code_page_text.h"
+#include "forms/plain_tool_tips.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -36,6 +37,7 @@ frmMain::frmMain(Services& services)
     loadInstruments();
     showBuiltInLanguage();
     client_->installEventFilter(this);
+    new PlainToolTips(this);
 }
 
 frmMain::~frmMain() = default;

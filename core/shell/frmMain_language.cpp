@@ -3,7 +3,7 @@
 #include "core/language/text_lines.h"
 #include "core/shell/frmMain.h"
 #include "forms/captions.h"
-#include "forms/text_edges.h"
+#include "platform/paths.h"
 
 namespace tabrova {
 

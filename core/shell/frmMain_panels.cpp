@@ -36,6 +36,7 @@ void frmMain::buildPanels() {
     statusBar_ = new StatusBar(client_);
     lbldebug_ = new QLabel(client_);
     lbldebug_->setObjectName("lbldebug");
+    lbldebug_->setTextFormat(Qt::PlainText);
     lbldebug_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     noteSelector_ = new NoteSelector(page_);
     bendPanel_ = new BendPanel(client_);
@@ -90,6 +91,10 @@ void frmMain::connectPage() {
     };
     handlers.scrollPageDown = [this] {
         editor_.VScroll1_Change(editor_.scroll().value + document_.VisibleStaves);
+    };
+    handlers.escape = [this] {
+        noteSelector_->hide();
+        editor_.picDocument_KeyDown(key::RedrawOnly, 0);
     };
     page_->setHandlers(std::move(handlers));
 }
@@ -149,7 +154,7 @@ void frmMain::mirrorScrollBar(int maximum, int value) {
     VScroll1_->setValue(value);
 }
 
-void frmMain::setTitle(const std::string& title) { setTitleOf(*this, fromCodePage(title)); }
+void frmMain::setTitle(const std::string& title) { setTitleOf(*this, shownName(title)); }
 
 void frmMain::setStatistics(const std::string& text) { lbldebug_->setText(QString::fromStdString(text)); }
 

@@ -19,7 +19,10 @@ void frmMain::connectTracks() {
     menu_->connectItem("mnuFileProperties", [this] { showFrmFileProperties(); });
     trackChooser_->chosen = [this](int row) { TrackNames_Click(row); };
     trackChooser_->addTrack = [this] { AddTrack(); };
-    trackChooser_->closed = [this] { closePanel(*trackChooser_); };
+    trackChooser_->closed = [this] {
+        closePanel(*trackChooser_);
+        focusPage();
+    };
     statusBar_->trackPanelClicked = [this] { mnuChoose(); };
     statusBar_->optionsPanelClicked = [this] { showOptions(OptionsTab::Appearance); };
 }
@@ -54,7 +57,7 @@ void frmMain::mnuKillTrack() {
         services_.boxes.ask({BoxTitle, QString::fromStdString(words_.onlyTrack), BoxIcon::Information});
         return;
     }
-    const QString name = fromCodePage(trackName(document_, document_.CurrentTrack));
+    const QString name = shownName(trackName(document_, document_.CurrentTrack));
     const QString question = QString::fromStdString(words_.removeTrackQuestion) + " '" + name + "' ?";
     if (services_.boxes.ask({BoxTitle, question, BoxIcon::Question, {BoxAnswer::Yes, BoxAnswer::No}}) !=
         BoxAnswer::Yes)
@@ -95,7 +98,7 @@ void frmMain::TrackNames_Click(int row) {
 }
 
 std::string frmMain::currentTrackName() const {
-    return utf8FromCodePage(trackName(document_, document_.CurrentTrack));
+    return shownName(trackName(document_, document_.CurrentTrack)).toStdString();
 }
 
 void frmMain::selectTrack(int row) {

@@ -4,6 +4,8 @@
 
 #include <QKeyEvent>
 
+#include <string_view>
+
 namespace tabrova {
 
 namespace {
@@ -44,12 +46,48 @@ int codeOfText(const QString& text) {
     return digit || letter ? character : 0;
 }
 
+// By number; a blank for the keys between.
+constexpr std::string_view PcKeys = "  1234567890    QWERTYUIOP    ASDFGHJKL     ZXCVBNM";
+constexpr std::string_view MacintoshKeys = "ASDFHGZXCV BQWERYT123465 97 80 OU IP LJ K    NM";
+
+int codeOfPlace(std::string_view keys, unsigned number) {
+    return number < keys.size() && keys[number] != ' ' ? keys[number] : 0;
+}
+
+// What the toolkit tells of the place differs by system; X and Wayland count from 8.
+int codeOfPlace(const QKeyEvent& event) {
+#if defined(Q_OS_MACOS)
+    return codeOfMacintoshKey(event.nativeVirtualKey());
+#elif defined(Q_OS_WIN)
+    return codeOfPcKey(event.nativeScanCode());
+#else
+    constexpr unsigned First = 8;
+    return codeOfPcKey(event.nativeScanCode() - First);
+#endif
+}
+
+bool isForeignText(const QString& text) {
+    const QList<uint> characters = text.toUcs4();
+    if (characters.size() != 1 || characters[0] < 0x80) return false;
+    return QChar::isDigit(characters[0]) ||
+           (QChar::isLetter(characters[0]) && QChar::script(characters[0]) != QChar::Script_Latin);
+}
+
 } // namespace
+
+int codeOfPcKey(unsigned number) { return codeOfPlace(PcKeys, number); }
+
+int codeOfMacintoshKey(unsigned number) { return codeOfPlace(MacintoshKeys, number); }
+
+bool isCombination(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != Qt::NoModifier;
+}
 
 KeyPress keyPressOf(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = event.modifiers();
     const int shift = (modifiers & Qt::ShiftModifier ? 1 : 0) | (modifiers & Qt::ControlModifier ? 2 : 0) |
                       (modifiers & Qt::AltModifier ? 4 : 0);
+    if (isForeignText(event.text())) return {codeOfPlace(event), shift};
     const int typed = codeOfText(event.text());
     return {typed != 0 ? typed : codeOfKey(event.key()), shift};
 }

@@ -1,5 +1,5 @@
-// Key presses and mouse buttons of the toolkit as the editor's codes. Keys go by what they type, not by their
-// place.
+// Key presses and mouse buttons of the toolkit as the editor's codes. Keys go by what they type; where that
+// is no Latin text, by their place on the keyboard.
 #pragma once
 
 #include "editing/editor.h"
@@ -14,6 +14,15 @@ struct KeyPress {
 };
 
 KeyPress keyPressOf(const QKeyEvent& event);
+
+// The letter or digit, in its editor's code, that stands on a Latin keyboard where this key is; 0 for any
+// other place. The number is that of a PC's keyboard, from 1 for Escape.
+int codeOfPcKey(unsigned number);
+// The same by the numbers of a Macintosh keyboard, from 0 for A.
+int codeOfMacintoshKey(unsigned number);
+
+// A press together with Control, Alt or Meta: a shortcut, or nothing.
+bool isCombination(const QKeyEvent& event);
 
 // A press of Shift, Control, Alt and the like alone, which is no command.
 bool isModifierAlone(const QKeyEvent& event);

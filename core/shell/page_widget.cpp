@@ -32,11 +32,20 @@ void PageWidget::paintCursor(QPainter& painter) const {
 }
 
 void PageWidget::keyPressEvent(QKeyEvent* event) {
+    if (isModifierAlone(*event) || isCombination(*event)) return event->ignore();
+    // A key that is held down from before the page had the keyboard belongs to what had it then.
+    if (event->isAutoRepeat() && event->key() != heldKey_) return;
+    heldKey_ = event->key();
     if (event->key() == Qt::Key_PageUp) return handlers_.scrollPageUp();
     if (event->key() == Qt::Key_PageDown) return handlers_.scrollPageDown();
-    if (isModifierAlone(*event)) return event->ignore();
+    if (event->key() == Qt::Key_Escape) return handlers_.escape();
     const KeyPress press = keyPressOf(*event);
     handlers_.key(press.keyCode, press.shift);
+}
+
+void PageWidget::focusOutEvent(QFocusEvent* event) {
+    heldKey_ = 0;
+    SurfaceWidget::focusOutEvent(event);
 }
 
 void PageWidget::mousePressEvent(QMouseEvent* event) {

@@ -16,6 +16,7 @@ class PageWidget : public SurfaceWidget {
         std::function<void(int staves)> scrollBy;
         std::function<void()> scrollPageUp;
         std::function<void()> scrollPageDown;
+        std::function<void()> escape;
     };
 
     PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent);
@@ -26,6 +27,7 @@ class PageWidget : public SurfaceWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
   private:
     void paintCursor(QPainter& painter) const;
@@ -33,6 +35,7 @@ class PageWidget : public SurfaceWidget {
     const PageObjects& objects_;
     Handlers handlers_;
     int wheelRest_ = 0;
+    int heldKey_ = 0; // the toolkit's number of the key that was pressed last
 };
 
 } // namespace tabrova

@@ -27,9 +27,13 @@ class TrackChooser : public QFrame {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // The Tab key stays inside.
+    bool focusNextPrevChild(bool next) override;
 
   private:
     ListBox* TrackNames_;
+    QPushButton* AddTrack_;
+    QPushButton* Command1_;
 };
 
 } // namespace tabrova

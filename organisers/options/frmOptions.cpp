@@ -1,7 +1,9 @@
 #include "organisers/options/frmOptions.h"
 
+#include "core/language/text_lines.h"
 #include "forms/captions.h"
-#include "forms/text_edges.h"
+#include "forms/plain_tool_tips.h"
+#include "platform/paths.h"
 #include "sound/pitch.h"
 
 #include <QCheckBox>
@@ -39,7 +41,7 @@ void frmOptions::Form_Load() {
     for (const MidiDeviceRow& row : host_.sound().FillDeviceList()) {
         auto* item = new QListWidgetItem(row.name, lst_Devices_);
         item->setData(Qt::UserRole, row.id);
-        item->setToolTip(row.name);
+        item->setToolTip(asPlainHint(row.name));
     }
     listLanguages();
     chooseStoredDevice();
@@ -69,9 +71,7 @@ void frmOptions::listLanguages() {
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
          entry.increment(failed)) {
         std::error_code unknown;
-        const QString name = textOf(entry->path().filename());
-        // A name that is no text could not be found again.
-        if (entry->is_directory(unknown) && !name.contains(QChar::ReplacementCharacter)) names.append(name);
+        if (entry->is_directory(unknown)) names.append(textOf(entry->path().filename()));
     }
     names.sort(Qt::CaseInsensitive);
     lstLanguages_->clear();
@@ -85,8 +85,7 @@ void frmOptions::lstLanguages_DblClick() {
     std::error_code failed;
     const std::filesystem::path active = activeLanguageFile(services_.programFolder);
     std::filesystem::remove(active, failed);
-    std::filesystem::copy_file(installedLanguages(services_.programFolder) / pathOf(row->text()) / "lang.trl",
-                               active, std::filesystem::copy_options::overwrite_existing, failed);
+    copyTextFile(installedLanguages(services_.programFolder) / pathOf(row->text()) / "lang.trl", active);
     LoadLanguage();
     showSynthesizer();
     host_.languageApplied();

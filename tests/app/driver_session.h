@@ -73,6 +73,7 @@ class DriverSession {
         process_.waitForFinished(20000);
         return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1;
     }
+    qint64 processId() const { return process_.processId(); }
     void closeInput() { process_.closeWriteChannel(); }
 
     static std::string text(const QJsonValue& value) { return value.toString().toStdString(); }

@@ -229,5 +229,14 @@ TEST(Driver, KeepsSettingsInTheFileItIsGiven) {
     EXPECT_EQ(shown.forms("visible").size(), 2u);
 }
 
+TEST(Driver, ABackslashInQuotesTakesTheNextCharacterAndNIsALineEnd) {
+    DriverSession drive;
+    drive.ok("do mnuFileProperties");
+    drive.ok(R"(set frmFileProperties.txtNotes "one\ntwo \"three\" \\n n")");
+    EXPECT_EQ(DriverSession::text(drive.get("frmFileProperties.txtNotes text")), "one\ntwo \"three\" \\n n");
+    drive.ok(R"(set frmFileProperties.txtNotes one\ntwo)");
+    EXPECT_EQ(DriverSession::text(drive.get("frmFileProperties.txtNotes text")), "one\\ntwo");
+}
+
 } // namespace
 } // namespace tabrova::testing

@@ -56,6 +56,25 @@ TEST(Keyboard, ShortcutsActBeforeThePagesKeys) {
     EXPECT_EQ(drive.ok("boxes")["boxes"].toArray().size(), 1);
 }
 
+TEST(Keyboard, CombinationsThatAreNoShortcutDoNothing) {
+    DriverSession drive;
+    drive.ok("type picDocument 5v");
+    drive.ok("press picDocument Right");
+    drive.ok("press picDocument Left");
+    const QJsonObject before = drive.doc();
+    for (const char* modifiers : {"Ctrl+", "Alt+", "Meta+", "Ctrl+Shift+", "Ctrl+Alt+", "Alt+Shift+"})
+        for (const char* key : {"Z", "S", "B", "X", "U", "J", "K", "1", "9", "0", "Return", "Space", "Delete",
+                                "Backspace", "Right", "Down", "PgDown"}) {
+            const QString combination = QString(modifiers) + key;
+            // These are shortcuts.
+            if (combination == "Ctrl+S" || combination == "Ctrl+0") continue;
+            drive.ok("press picDocument " + combination);
+            ASSERT_EQ(drive.doc(), before) << combination.toStdString();
+        }
+    drive.ok("key 90 2"); // the editor's own rule looks at no bit but 1
+    EXPECT_EQ(cell(drive.doc(), "TechniqueGrid", 0, 0), ".");
+}
+
 TEST(Keyboard, PageKeysScroll) {
     DriverSession drive({TABROVA_SOURCE_DIR "/examples/fingerpicked-study.tr3"});
     drive.ok("press picDocument PgDown");
@@ -96,6 +115,36 @@ TEST(FretPalette, ItsButtonOnlyClosesIt) {
     drive.ok("click Image1");
     EXPECT_FALSE(drive.page()["picNoteSelector"].toObject()["visible"].toBool());
     EXPECT_EQ(note(drive.doc(), 0, 0), "7");
+}
+
+TEST(FretPalette, EscapeClosesItAndAClickOnThePageLeavesItOpen) {
+    DriverSession drive;
+    const auto visible = [&] { return drive.page()["picNoteSelector"].toObject()["visible"].toBool(); };
+    drive.ok("key 55");
+    drive.ok("click picDocument 30 28 right");
+    drive.ok("click picDocument 60 38");
+    EXPECT_TRUE(visible());
+    drive.ok("press picDocument Escape");
+    EXPECT_FALSE(visible());
+    EXPECT_EQ(note(drive.doc(), 0, 0), "7");
+    drive.ok("press picDocument Escape");
+    drive.ok("press picDocument 5");
+    EXPECT_EQ(drive.doc()["NoteGrid"].toArray().size(), 2);
+}
+
+TEST(FretPalette, APointerFarOutsideReachesNoCell) {
+    DriverSession drive;
+    drive.ok("key 55");
+    for (const char* place : {"2147483647 2147483647", "2147483647 30", "30 2147483647", "-2147483648 30",
+                              "30 -2147483648", "-2147483648 -2147483648"}) {
+        for (const char* button : {"left", "right", "middle"})
+            for (const char* surface : {"picDocument", "picFretboard", "picStandardNotation"})
+                drive.ok(QString("click %1 %2 %3").arg(surface, place, button));
+        drive.ok(QString("move picNoteSelector %1").arg(place));
+        drive.ok(QString("dblclick picDocument %1").arg(place));
+    }
+    EXPECT_EQ(note(drive.doc(), 0, 0), "7");
+    EXPECT_EQ(drive.doc()["ColumnInStaff"].toInt(), 0);
 }
 
 TEST(Keyboard, TheBendPanelIsLeftByEnterOnly) {

@@ -96,6 +96,44 @@ TEST_F(Tracks, AreChosenInTheSelector) {
     EXPECT_EQ(note(drive.doc(), 0, 6), "7");
 }
 
+TEST_F(Tracks, AreChosenByKeysWithEnterOrSpaceAndLeftWithEscape) {
+    add("no");
+    add("no");
+    for (const char* key : {"Return", "Enter", "Space"}) {
+        choose(0);
+        drive.ok("do mnuChoose");
+        drive.ok("press TrackNames Down");
+        drive.ok("press TrackNames Down");
+        drive.ok("press TrackNames Up");
+        EXPECT_TRUE(chooserVisible()) << key;
+        EXPECT_EQ(drive.doc()["CurrentTrack"].toInt(), 1) << key;
+        drive.ok(QString("press TrackNames %1").arg(key));
+        EXPECT_FALSE(chooserVisible()) << key;
+        EXPECT_EQ(drive.doc()["CurrentTrack"].toInt(), 2) << key;
+    }
+    drive.ok("do mnuChoose");
+    drive.ok("press TrackNames Down");
+    drive.ok("press TrackNames Escape");
+    EXPECT_FALSE(chooserVisible());
+    EXPECT_EQ(drive.doc()["CurrentTrack"].toInt(), 2);
+    drive.ok("do mnuChoose");
+    EXPECT_EQ(drive.get("TrackNames").toInt(), 1); // the track itself is chosen again
+}
+
+TEST_F(Tracks, NoKeyFallsThroughTheirSelectorToThePage) {
+    add("no");
+    drive.ok("press picDocument Shift+Space");
+    drive.ok("press RepeatScroller Return");
+    drive.ok("do mnuChoose");
+    const QJsonObject before = drive.doc();
+    for (const char* key : {"7", "X", "Delete", "Ctrl+Z", "Tab", "F2", "U"})
+        for (const char* place : {"TrackNames", "AddTrack", "Command1"})
+            drive.ok(QString("press %1 %2").arg(place, key));
+    QJsonObject after = drive.doc();
+    EXPECT_EQ(after, before);
+    EXPECT_TRUE(chooserVisible());
+}
+
 TEST_F(Tracks, OpenTheirSelectorByAClickOnTheStatusBar) {
     drive.ok("click StatusBar1(1)");
     EXPECT_TRUE(chooserVisible());

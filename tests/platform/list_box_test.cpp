@@ -2,6 +2,7 @@
 #include "platform/list_box.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTest>
 
@@ -37,6 +38,30 @@ TEST_F(Lists, RaiseOneClickForAMoveByKeys) {
     QTest::keyClick(&list, Qt::Key_End);
     QTest::keyClick(&list, Qt::Key_Down); // already at the end
     EXPECT_EQ(rows, (std::vector<int>{1, 2}));
+}
+
+TEST_F(Lists, ThatEndWithAChoiceRaiseItsClickOnlyForReturnEnterAndSpace) {
+    ListBox ending("lst", nullptr, ListBox::KeyClick::AtEnter);
+    ending.addItems({"a", "b", "c"});
+    ending.show();
+    std::vector<int> chosen;
+    ending.Click = [&] { chosen.push_back(ending.chosenRow()); };
+    QTest::keyClick(&ending, Qt::Key_Return); // nothing is chosen yet
+    ending.setCurrentRow(0);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Up, Qt::Key_C, Qt::Key_Home})
+        QTest::keyClick(&ending, key);
+    EXPECT_TRUE(chosen.empty());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        QTest::keyClick(&ending, key);
+        QTest::keyClick(&ending, Qt::Key_Down);
+    }
+    EXPECT_EQ(chosen, (std::vector<int>{0, 1, 2}));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(&ending, &held);
+    EXPECT_EQ(chosen.size(), 3u);
+    EXPECT_TRUE(held.isAccepted());
+    QTest::mouseClick(ending.viewport(), Qt::LeftButton, {}, ending.visualItemRect(ending.item(1)).center());
+    EXPECT_EQ(chosen.size(), 4u);
 }
 
 TEST_F(Lists, RaiseNoneWhenTheProgramChooses) {

@@ -1,6 +1,7 @@
 #include "core/shell/properties/frmFileProperties.h"
 
 #include "core/shell/properties/notes_box.h"
+#include "core/shell/properties/notes_text.h"
 #include "forms/captions.h"
 #include "forms/code_page_text.h"
 #include "forms/logo.h"
@@ -25,7 +26,7 @@ constexpr int LargeSpeedStep = 5;
 constexpr int LongestName = 30; // characters
 
 // The document's line ends are CR LF.
-QString notesOf(const Document& document) { return fromCodePage(document.Notes).replace("\r\n", "\n"); }
+QString textOfNotes(std::string_view notes) { return fromCodePage(std::string(notes)).replace("\r\n", "\n"); }
 
 std::string bytesOfNotes(const QString& text) { return toCodePage(QString(text).replace("\n", "\r\n")); }
 
@@ -96,12 +97,14 @@ void frmFileProperties::build() {
 void frmFileProperties::Form_Load() {
     LoadLanguage();
     const Document& document = host_.document();
-    showName(*txtTitle_, fromCodePage(document.Title));
-    showName(*txtAuthor_, fromCodePage(document.Author));
+    showName(*txtTitle_, shownName(document.Title));
+    showName(*txtAuthor_, shownName(document.Author));
     sldSpeed_->setValue(document.Tempo);
     spnSpeed_->setValue(sldSpeed_->value());
     chkSpeedBoost_->setChecked(document.DoubleTime != False16);
-    txtNotes_->showNotes(notesOf(document));
+    const std::string_view shown = shownNotes(document.Notes);
+    notesRest_ = document.Notes.substr(shown.size());
+    txtNotes_->showNotes(textOfNotes(shown));
     chkReverb_->setChecked(document.PreventReverberations != 0);
     title_ = txtTitle_->text();
     author_ = txtAuthor_->text();
@@ -117,7 +120,8 @@ void frmFileProperties::Form_Unload() {
     if (txtAuthor_->text() != author_) document.Author = toCodePage(txtAuthor_->text());
     document.Tempo = static_cast<std::int16_t>(sldSpeed_->value());
     document.DoubleTime = boolean16(chkSpeedBoost_->isChecked());
-    if (txtNotes_->toPlainText() != notes_) document.Notes = bytesOfNotes(txtNotes_->toPlainText());
+    if (txtNotes_->toPlainText() != notes_)
+        document.Notes = bytesOfNotes(txtNotes_->toPlainText()) + notesRest_;
     document.PreventReverberations = chkReverb_->isChecked() ? 1 : 0;
 }
 

@@ -46,8 +46,9 @@ class frmFileProperties : public QDialog {
     NotesBox* txtNotes_;
     QCheckBox* chkReverb_;
     QPushButton* Command1_;
-    // As shown at the load.
+    // As shown at the load, and what stands behind the shown part of the notes.
     QString title_, author_, notes_;
+    std::string notesRest_;
 };
 
 } // namespace tabrova

@@ -93,7 +93,7 @@ void frmTrackProperties::Form_Load() {
         if (name == "patch") patchWord_ = text;
     });
     const Document& document = host_.document();
-    txtTrackName_->setText(fromCodePage(trackName(document, document.CurrentTrack)));
+    txtTrackName_->setText(shownName(trackName(document, document.CurrentTrack)));
     showPatch();
     showTuning();
     {
@@ -122,7 +122,7 @@ void frmTrackProperties::showTuning() {
 void frmTrackProperties::showKindOfTrack() {
     const Document& document = host_.document();
     const bool guitar = document.isGuitarTrack(document.CurrentTrack);
-    const QString name = fromCodePage(trackName(document, document.CurrentTrack));
+    const QString name = shownName(trackName(document, document.CurrentTrack));
     setTitleOf(*this, titleWords_ + name + (guitar ? "" : " (Perc.)"));
     for (QLabel* label : {Label6_, lblTuning_, lblPatchDisplay_})
         label->setVisible(guitar);
@@ -130,11 +130,12 @@ void frmTrackProperties::showKindOfTrack() {
     Command2_->setEnabled(guitar);
 }
 
-// An empty name leaves the old one.
+// An empty name leaves the old one, and so does one that is not changed, whatever the box can show of it.
 void frmTrackProperties::Command9_Click() {
     if (txtTrackName_->text().isEmpty()) return;
     Document& document = host_.document();
-    setCurrentTrackRow(document, document.TrackNames, toCodePage(txtTrackName_->text()));
+    if (txtTrackName_->text() != shownName(trackName(document, document.CurrentTrack)))
+        setCurrentTrackRow(document, document.TrackNames, toCodePage(txtTrackName_->text()));
     host_.showTracks();
     host_.selectTrack(document.CurrentTrack - 1);
     showKindOfTrack();

@@ -1,11 +1,11 @@
 #include "core/shell/properties/notes_box.h"
 
 #include "core/code_page.h"
+#include "forms/plain_tool_tips.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSignalBlocker>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -22,10 +22,12 @@ bool isHeld(char32_t character) { return character == U'\n' || byteOf(character)
 // What a file can hold of the text, as much as there is room for.
 QString accepted(const QString& text, qsizetype room) {
     QString kept;
-    for (const char32_t character : QString(text).replace("\r\n", "\n").toUcs4())
-        if (isHeld(character)) kept.append(QString::fromUcs4(&character, 1));
-    while (lengthOf(kept) > room)
-        kept.chop(1);
+    for (const char32_t character : QString(text).replace("\r\n", "\n").toUcs4()) {
+        if (!isHeld(character)) continue;
+        room -= character == U'\n' ? 2 : 1;
+        if (room < 0) break;
+        kept.append(QString::fromUcs4(&character, 1));
+    }
     return kept;
 }
 
@@ -54,7 +56,7 @@ void NotesBox::keyPressEvent(QKeyEvent* event) {
     const bool types = !typed.isEmpty() && (typed[0] == '\n' || typed[0].isPrint());
     if (!types || accepted(typed, room()) == typed) return QPlainTextEdit::keyPressEvent(event);
     if (hint && accepted(typed, LongestNotes) != typed)
-        QToolTip::showText(mapToGlobal(cursorRect().bottomLeft()), hint(), this);
+        showPlainHint(mapToGlobal(cursorRect().bottomLeft()), hint(), this);
 }
 
 void NotesBox::insertFromMimeData(const QMimeData* source) {
