@@ -123,7 +123,9 @@ class DamagedWalk {
 
     // A new document is as good as ever.
     void expectWhole() {
-        drive_.run("answer no");
+        openDamaged();
+        tidy();
+        drive_.ok("answer no");
         drive_.ok("do mnuFileNew");
         drive_.run("click frmFileProperties.Command1");
         const QJsonObject doc = drive_.doc();
@@ -142,12 +144,13 @@ class DamagedWalk {
         return list[choose(0, static_cast<int>(Count) - 1)];
     }
 
-    void send(const QString& command) {
+    // False if the program refused, as it may: the control is disabled or not there.
+    bool send(const QString& command) {
         ++sent_;
         const QJsonObject answer = drive_.run(command);
-        // "disabled" and "not loaded" are answers; none at all is the program's end.
-        ASSERT_FALSE(answer.isEmpty()) << command.toStdString();
-        ASSERT_FALSE(answer.contains("ended")) << command.toStdString();
+        EXPECT_FALSE(answer.isEmpty()) << "no answer to " << command.toStdString();
+        EXPECT_FALSE(answer.contains("ended")) << command.toStdString();
+        return !answer.contains("error");
     }
 
     long memory() {
@@ -173,6 +176,11 @@ class DamagedWalk {
 
     void openDamaged() {
         tidy();
+        // Answers that nobody asked for yet would be given to the next question.
+        for (; unasked_ > 0; --unasked_)
+            send("do mnuKillTrack");
+        for (; unchosen_ > 0; --unchosen_)
+            send("do mnuSaveAs");
         send("answer no");
         send("answer file " + files_[choose(0, static_cast<int>(files_.size()) - 1)]);
         send("do mnuFileOpen");
@@ -187,7 +195,7 @@ class DamagedWalk {
 
     void act() {
         const int kind = choose(0, 99);
-        if (kind < 35) return send("press " + oneOf(Receivers) + " " + oneOf(Keys));
+        if (kind < 35) return press();
         if (kind < 62) return menu();
         if (kind < 80) return mouse();
         if (kind < 88) return value();
@@ -195,11 +203,18 @@ class DamagedWalk {
         send(QString("resize frmMain %1 %2").arg(choose(200, 1200)).arg(choose(100, 800)));
     }
 
+    void press() { send("press " + oneOf(Receivers) + " " + oneOf(Keys)); }
+
     void menu() {
+        const QString item = oneOf(MenuItems);
+        const bool asks = item == "mnuFileNew" || item == "mnuAddTrack" || item == "mnuKillTrack";
+        const bool chooses = item == "mnuSaveAs";
         const char* const answers[] = {"yes", "no", "cancel"};
-        send("answer " + oneOf(answers));
-        if (choose(0, 1) == 0) send("answer file " + folder_.filePath("saved.tr3"));
-        send("do " + oneOf(MenuItems));
+        if (asks) send("answer " + oneOf(answers));
+        if (chooses) send("answer file " + folder_.filePath("saved.tr3"));
+        const bool done = send("do " + item);
+        if (asks && !done) ++unasked_;
+        if (chooses && !done) ++unchosen_;
     }
 
     void mouse() {
@@ -243,6 +258,7 @@ class DamagedWalk {
     DriverSession drive_;
     QStringList files_;
     int sent_ = 0;
+    int unasked_ = 0, unchosen_ = 0;
 };
 
 TEST(DamagedDocuments, BearEveryActOfAUser) {
