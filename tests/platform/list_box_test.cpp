@@ -98,6 +98,21 @@ TEST_F(Lists, RaiseOneDoubleClickForTwoClicksOrReturnOnTheChosenRow) {
     EXPECT_EQ(doubles, (std::vector<int>{1, 1, 1}));
 }
 
+TEST_F(Lists, TakeReturnAndEnterForADoubleClickAndNoOtherKey) {
+    int doubles = 0;
+    list.DoubleClick = [&doubles] { ++doubles; };
+    list.setCurrentRow(0);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(doubles, 1);
+    QTest::keyClick(&list, Qt::Key_Enter);
+    EXPECT_EQ(doubles, 2);
+    EXPECT_TRUE(rows.empty());
+    for (const auto key : {Qt::Key_Down, Qt::Key_Space, Qt::Key_Escape})
+        QTest::keyClick(&list, key);
+    EXPECT_EQ(doubles, 2);
+    EXPECT_EQ(rows, std::vector<int>{1});
+}
+
 TEST_F(Lists, TakeTheRowUnderADoubleClickThatComesWithoutAPress) {
     int row = -1;
     list.DoubleClick = [&] { row = list.chosenRow(); };
@@ -121,6 +136,9 @@ TEST_F(Lists, TakeNoNoticeOfOtherButtons) {
     EXPECT_EQ(list.chosenRow(), 1);
     EXPECT_TRUE(rows.empty());
 }
+
+// Ten thousand rows would be measured one by one otherwise.
+TEST_F(Lists, HaveRowsOfOneHeight) { EXPECT_TRUE(list.uniformItemSizes()); }
 
 TEST_F(Lists, HaveNoChosenRowWhereTheKeyboardAloneStands) {
     list.setFocus();

@@ -81,6 +81,13 @@ TEST(TimerService, CallsNothingAfterAKill) {
     service.timeKillEvent(0);
 }
 
+TEST(TimerService, NumbersItsTimersFromOne) {
+    SystemTimerService service;
+    std::atomic<int> count = 0;
+    for (const auto id : {1u, 2u, 3u})
+        EXPECT_EQ(service.timeSetEvent(60000, 0, countCall, &count, TIME_PERIODIC), id);
+}
+
 TEST(TimerService, ServesSeveralTimersByTheirOwnIds) {
     SystemTimerService service;
     std::atomic<int> fast = 0, slow = 0;
