@@ -1,6 +1,6 @@
 // A slow plain model of the editor over maps of cells: the rules of keys, cursor, mouse, scrolling and page
-// size as they are told, without a page, a pool or a grid. It does not take the editor's steps: scroll bar and
-// marker follow from where the cursor stands and which staff is the page's first.
+// size as they are told, without a page, a pool or a grid. It does not take the editor's steps: scroll bar
+// and marker follow from where the cursor stands and which staff is the page's first.
 #pragma once
 
 #include <cmath>
@@ -180,8 +180,8 @@ class PlainEditor {
         placeObjects();
     }
 
-    // Behind a staff's last column comes the first of the next staff; the document grows by one where there is
-    // none. A cursor that steps off the page takes the page along by that one staff.
+    // Behind a staff's last column comes the first of the next staff; the document grows by one where there
+    // is none. A cursor that steps off the page takes the page along by that one staff.
     void right() {
         if (column < 31) {
             ++column;
