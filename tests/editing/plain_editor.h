@@ -104,7 +104,8 @@ class PlainEditor {
 
     void mouse(int button, int x, int y) {
         if (x < 22 || y < 25) return;
-        const int c = (x - 22) / columnWidth;
+        // On a page without room for columns there is nothing to hit.
+        const int c = columnWidth < 1 ? 32 : (x - 22) / columnWidth;
         const int r = (y - 25) / 100;
         if (c <= 31 && r + 1 <= visibleStaves && topStaff + r + 1 <= staffCount) {
             column = c;
