@@ -33,6 +33,11 @@ TEST(PageGeometry, ColumnsAreA32ndOfWhatTheMarginsLeaveRoundedHalfToEven) {
         EXPECT_EQ(columnWidth(width), column) << width;
 }
 
+TEST(PageGeometry, ColumnsTooWideToCountHaveNoWidth) {
+    EXPECT_EQ(columnWidth(60 + 32 * 32767), 32767);
+    EXPECT_EQ(columnWidth(60 + 32 * 32768), 0);
+}
+
 TEST(PageGeometry, TheLinesFollowTheCursor) {
     PageObjects objects;
     objects.nCursor = {167, 65, 13, 10};
