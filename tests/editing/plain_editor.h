@@ -1,5 +1,6 @@
 // A slow plain model of the editor over maps of cells: the rules of keys, cursor, mouse, scrolling and page
-// size as they are told, without a page, a pool or a grid.
+// size as they are told, without a page, a pool or a grid. It does not take the editor's steps: scroll bar
+// and marker follow from where the cursor stands and which staff is the page's first.
 #pragma once
 
 #include <cmath>
@@ -33,8 +34,8 @@ class PlainEditor {
         columnWidth = static_cast<int>(std::nearbyint((pageWidth - 60) / 32.0));
         scrollMaximum = visibleStaves >= staffCount ? 1 : staffCount - visibleStaves + 1;
         // A scroll bar cannot hold a value over its end.
-        if (scrollValue > scrollMaximum) scroll(scrollMaximum);
-        markerLeft = column * columnWidth + 22;
+        if (topStaff + 1 > scrollMaximum) showFromStaff(scrollMaximum);
+        placeObjects();
     }
 
     void key(int code, int shiftState) {
@@ -103,14 +104,14 @@ class PlainEditor {
 
     void mouse(int button, int x, int y) {
         if (x < 22 || y < 25) return;
-        const int c = (x - 22) / columnWidth;
+        // On a page without room for columns there is nothing to hit.
+        const int c = columnWidth < 1 ? 32 : (x - 22) / columnWidth;
         const int r = (y - 25) / 100;
         if (c <= 31 && r + 1 <= visibleStaves && topStaff + r + 1 <= staffCount) {
             column = c;
             string = static_cast<int>(std::nearbyint((y - 25 - 100 * r) / 10.0));
             if (string > 5) string = 5;
             staff = topStaff + r + 1;
-            markerTop = 100 * r + 10 * string + 25;
             redraw();
         }
         if (button == 2 && guitar[track]) ++palettes;
@@ -119,12 +120,7 @@ class PlainEditor {
     void scroll(int value) {
         if (value < 1) value = 1;
         if (value > scrollMaximum) value = scrollMaximum;
-        if (value == scrollValue) return;
-        scrollValue = value;
-        const int rowOfCursor = staff - topStaff;
-        topStaff = value - 1;
-        staff = topStaff + rowOfCursor;
-        if (rowOfCursor == visibleStaves + 1) staff -= visibleStaves;
+        showFromStaff(value);
         redraw();
     }
 
@@ -132,11 +128,8 @@ class PlainEditor {
         pageWidth = width;
         pageHeight = height;
         redraw();
-        if (markerTop + 15 + (6 - string) * 10 > pageHeight && visibleStaves >= 1 && markerTop > 100)
-            while (markerTop > visibleStaves * 100) {
-                markerTop -= 100;
-                --staff;
-            }
+        // A cursor that fell below the page is pulled up to the last staff that is shown.
+        if (staff > topStaff + visibleStaves) staff = topStaff + visibleStaves;
         redraw();
     }
 
@@ -167,56 +160,50 @@ class PlainEditor {
         put(notes, here(), row() - 2, std::to_string(std::stoi(root) + 2));
     }
 
-    void move(int code) {
-        if (code == 38 && string > 0) {
-            --string;
-            markerTop -= 10;
-        }
-        if (code == 40 && string < 5) {
-            ++string;
-            markerTop += 10;
-        }
-        if (code == 39) right();
-        if (code == 37) left();
+    // The cursor stays where it is on the screen: as many staves as the page goes on, it goes on.
+    void showFromStaff(int first) {
+        const int staves = first - (topStaff + 1);
+        topStaff += staves;
+        staff += staves;
     }
 
+    void placeObjects() {
+        scrollValue = topStaff + 1;
+        markerLeft = column * columnWidth + 22;
+        markerTop = 100 * (staff - topStaff - 1) + 10 * string + 25;
+    }
+
+    void move(int code) {
+        if (code == 38 && string > 0) --string;
+        if (code == 40 && string < 5) ++string;
+        if (code == 39) right();
+        if (code == 37) left();
+        placeObjects();
+    }
+
+    // Behind a staff's last column comes the first of the next staff; the document grows by one where there
+    // is none. A cursor that steps off the page takes the page along by that one staff.
     void right() {
         if (column < 31) {
             ++column;
-            markerLeft += columnWidth;
             return;
         }
-        if (staff == staffCount) {
-            ++staffCount;
-            redraw();
-        }
         column = 0;
-        markerTop += 100;
         ++staff;
+        if (staff > staffCount) staffCount = staff;
+        if (staff > topStaff + visibleStaves) ++topStaff;
         redraw();
-        if (staff == topStaff + visibleStaves + 1) {
-            scroll(scrollValue + 1);
-            markerTop -= 100;
-            staff += visibleStaves - 1;
-            mouse(23, markerLeft, markerTop);
-        }
     }
 
     void left() {
         if (column > 0) {
             --column;
-            markerLeft -= columnWidth;
             return;
         }
         if (staff > 1) {
             column = 31;
-            markerTop -= 100;
             --staff;
-            if (staff == topStaff) {
-                scroll(scrollValue - 1);
-                markerTop += 100;
-                ++staff;
-            }
+            if (staff <= topStaff) --topStaff;
         }
         redraw();
     }

@@ -98,6 +98,21 @@ TEST_F(Scrolling, ACursorOneStaffBelowThePageFallsByThePage) {
     EXPECT_EQ(document.TopStaff, 1);
 }
 
+TEST_F(Scrolling, TheCursorStepsOffThePageToTheNextStaffAlsoWhereNoClickCouldPlaceIt) {
+    grow(10);
+    for (const int width : {984, 60, 20}) {
+        editor.VScroll1_Change(1);
+        resizePage(width, 472);
+        while (document.CurrentStaff > 4)
+            editor.MoveCursor(Direction::Left);
+        moveTo(4, 31);
+        expectAt(4, 31, 0, 0);
+        editor.MoveCursor(Direction::Right);
+        EXPECT_EQ(document.ColumnWidth, width == 984 ? 29 : width == 60 ? 0 : -1);
+        expectAt(5, 0, 0, 1);
+    }
+}
+
 TEST_F(Scrolling, FocusesThePageThenRewritesTheLineThenRedraws) {
     grow(10);
     host.take();

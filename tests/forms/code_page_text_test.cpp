@@ -56,5 +56,45 @@ TEST_F(RestrictedBox, RefusesOthersOnPasteWithAHint) {
     EXPECT_EQ(box.text().toStdString(), "fine");
 }
 
+TEST(CodePageText, WhatTheCodePageDoesNotHoldIsAQuestionMark) {
+    EXPECT_EQ(toCodePage(QString::fromUtf8("a中b🎸c")), "a?b?c");
+    EXPECT_EQ(toCodePage(""), "");
+}
+
+TEST_F(RestrictedBox, TakesControlCharactersAndLineEndsForBlanks) {
+    const CodePageValidator validator(nullptr);
+    int place = 0;
+    for (int code = 0; code <= 0x80; ++code) {
+        const bool control = code < 32 || code == 0x7F;
+        QString text = QString("a") + QChar(code) + "b";
+        const bool taken = validator.validate(text, place) == QValidator::Acceptable;
+        EXPECT_EQ(taken, code != 0x80) << code;
+        if (taken) {
+            EXPECT_EQ(text, QString("a") + QChar(control ? ' ' : code) + "b") << code;
+        }
+    }
+    QString lines = "a\r\nb\n\rc";
+    EXPECT_EQ(validator.validate(lines, place), QValidator::Acceptable);
+    EXPECT_EQ(lines, "a  b  c");
+    QString foreign = QString::fromUtf8("a🎸");
+    EXPECT_EQ(validator.validate(foreign, place), QValidator::Invalid);
+}
+
+TEST_F(RestrictedBox, HintsBelowItself) {
+    box.setGeometry(300, 200, 120, 30);
+    QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString::fromUtf8("中"), Qt::NoModifier);
+    EXPECT_EQ(QToolTip::text(), "A tablature file cannot hold this character.");
+    QWidget* tip = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->inherits("QTipLabel") && widget->isVisible()) tip = widget;
+    ASSERT_NE(tip, nullptr);
+    const QPoint below = box.mapToGlobal(QPoint(0, 30));
+    // The toolkit keeps the hint a little off the place that it is told.
+    EXPECT_GE(tip->x(), below.x());
+    EXPECT_LT(tip->x(), below.x() + 25);
+    EXPECT_GE(tip->y(), below.y());
+    EXPECT_LT(tip->y(), below.y() + 25);
+}
+
 } // namespace
 } // namespace tabrova

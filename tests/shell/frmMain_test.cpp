@@ -139,13 +139,31 @@ TEST_F(MainWindow, InlaysTakeTheirColorFromTheTheme) {
 }
 
 TEST_F(MainWindow, AnySizeOfTheWindowIsDrawnWithBothViews) {
+    const auto shows = [this](const char* name, const Surface& surface) {
+        auto* widget = window.findChild<QWidget*>(name);
+        return widget->size() == QSize(surface.width(), surface.height()) &&
+               widget->grab().toImage().convertToFormat(QImage::Format_RGB32) == surface.image();
+    };
     window.menu().action("mnuVirtualFretboard")->trigger();
     for (const int width : {200, 783, 784, 900, 1700})
         for (const int height : {40, 203, 206, 230, 300, 479, 480, 900, 1400}) {
+            SCOPED_TRACE(std::to_string(width) + " by " + std::to_string(height));
             window.resizeClient(width, height);
             window.menu().action("mnuViewNotation")->trigger();
             window.menu().action("mnuVirtualFretboard")->trigger();
+            window.editor().page().nCursor.left = 5000;
+            window.editor().page().placeLines();
+            if (width > 783) {
+                const int neck = window.layoutOfPanels().fretboardShown ? 89 : 0;
+                EXPECT_EQ(window.view().picDocument.width(), width - 16 - neck);
+            }
+            EXPECT_TRUE(shows("picDocument", window.view().picDocument));
+            EXPECT_TRUE(shows("picFretboard", window.view().picFretboard));
+            const int pitch = fretPitch(window.view().picFretboard.height());
+            const auto place = neckPlaceAt(40, 12, pitch);
+            window.document().setNote(0, 3, "old");
             QTest::mouseClick(window.findChild<QWidget*>("picFretboard"), Qt::LeftButton, {}, {40, 12});
+            EXPECT_EQ(window.document().note(0, 3), place ? std::to_string(place->fret) : "old");
         }
 }
 

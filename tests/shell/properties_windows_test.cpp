@@ -178,10 +178,13 @@ TEST_F(PropertiesWindows, ANewDocumentUnloadsTheFormSoThatItShowsTheNewValues) {
     trigger("mnuPlaybackStop");
     trigger("mnuFileNew");
     ASSERT_NE(form("frmFileProperties"), nullptr);
+    int shown = 0;
     for (QWidget* widget : QApplication::topLevelWidgets())
         if (widget->objectName() == "frmFileProperties" && widget->isVisible()) {
+            ++shown;
             EXPECT_EQ(control<QSlider>(*widget, "sldSpeed")->value(), 480);
         }
+    EXPECT_EQ(shown, 1);
     EXPECT_EQ(document().Tempo, 480);
 }
 

@@ -200,6 +200,19 @@ TEST_F(Preview, AVolumeOrInstrumentThatIsNoNumberSilencesItsStatements) {
     EXPECT_TRUE(preview(RealtimeMode::CurrentTrack).empty());
 }
 
+TEST_F(Preview, OfAllTracksEndsWithTheDocumentsTracksThoughTheListsHoldMore) {
+    document.TrackCount = 2;
+    document.setNote(0, 11, "3");
+    document.setNote(0, 12, "36");
+    EXPECT_EQ(preview(RealtimeMode::AllTracks), (Messages{{0xB0, 0, 0x80},
+                                                          {0xC0, 24, 0},
+                                                          {0xB0, 0, 0x80},
+                                                          {0xC0, 30, 0},
+                                                          {0x90, 43, 100},
+                                                          {0xB0, 0, 0x80},
+                                                          {0xC0, 24, 0}}));
+}
+
 TEST_F(Preview, LastsTwoColumns) {
     EXPECT_EQ(previewDuration(document), 250);
     document.Tempo = 700;

@@ -245,5 +245,18 @@ TEST_F(Playback, RowsBehindTheLastTrackAreNotPlayed) {
     EXPECT_EQ(result, TickResult::Playing);
 }
 
+TEST_F(Playback, ATracksStringsEndBeforeTheNextTracks) {
+    makeDocument(4, {Kind::Percussion, Kind::Guitar, Kind::Percussion});
+    document.PreventReverberations = 0;
+    put(0, 6, "40", ".");
+    put(1, 12, "40", ".");
+    put(2, 12, "x");
+    put(3, 12, "36", "r");
+    EXPECT_EQ(sounds(), (Messages{{0x90, 104, 90}, {0x90, 104, 0}}));
+    EXPECT_EQ(sounds(), (Messages{{0x99, 40, 80}}));
+    EXPECT_EQ(sounds(), Messages{});
+    EXPECT_EQ(sounds(), (Messages{{0x99, 36, 80}}));
+}
+
 } // namespace
 } // namespace tabrova::testing

@@ -138,5 +138,17 @@ TEST_F(Neck, InlaysAreQuietInEveryTheme) {
     EXPECT_EQ(quietInlayColor(qRgb(255, 255, 255)), qRgb(200, 200, 200));
 }
 
+TEST(QuietInlay, KeepsAColorThatIsNeitherTooDarkNorTooLight) {
+    for (const QRgb color : {0xFF969696u, 0xFFC8C8C8u, 0xFFA0B0C0u, 0xFFB8B8B8u})
+        EXPECT_EQ(quietInlayColor(color), color);
+}
+
+TEST(QuietInlay, IsTheNextQuietGreyOtherwise) {
+    for (const QRgb dark : {0xFF000000u, 0xFF808080u, 0xFF959595u, 0xFF0000FFu})
+        EXPECT_EQ(quietInlayColor(dark), 0xFF969696u) << std::hex << dark;
+    for (const QRgb light : {0xFFFFFFFFu, 0xFFC9C9C9u, 0xFFE0E4E8u})
+        EXPECT_EQ(quietInlayColor(light), 0xFFC8C8C8u) << std::hex << light;
+}
+
 } // namespace
 } // namespace tabrova::testing

@@ -3,6 +3,11 @@
 #include "tests/tabview/page_helpers.h"
 #include "tests/tabview/plain_blitter.h"
 
+#include <QPainter>
+
+#include <cmath>
+#include <set>
+
 namespace tabrova::testing {
 namespace {
 
@@ -24,6 +29,36 @@ class NeckPixels : public ::testing::Test {
             for (int x = part.left; x < part.right(); ++x)
                 if (qGray(at(x, y)) < 128) return true;
         return false;
+    }
+
+    // A neck without notes, from its rules alone.
+    static QImage plainNeck(int height, int scale) {
+        QImage image(89 * scale, height * scale, QImage::Format_RGB32);
+        image.fill(PaperColor);
+        const auto box = [&](int left, int y1, int right, int y2, QRgb color) {
+            for (int y = std::max(0, std::min(y1, y2)); y <= std::min(height - 1, std::max(y1, y2)); ++y)
+                for (int x = left * scale; x < (right + 1) * scale; ++x)
+                    for (int line = y * scale; line < (y + 1) * scale; ++line)
+                        image.setPixel(x, line, color);
+        };
+        const int pitch = static_cast<int>(std::nearbyint((height - 30) / 29.0));
+        const std::set<int> inlaid = {3, 5, 7, 9, 12, 15, 17, 19, 21, 23, 25, 27, 29};
+        for (int fret = 0; fret < 30; ++fret) {
+            const int y = pitch * fret + 15;
+            box(20, y, 70, y, Black);
+            if (inlaid.contains(fret + 1)) box(35, y + 5, 55, y + pitch - 5, Grey);
+        }
+        for (int x = 20; x <= 70; x += 10)
+            box(x, 15, x, 29 * (29 * pitch + 15), Black);
+        QPainter painter(&image);
+        QFont font;
+        font.setFamilies({"Tahoma", "Verdana", "DejaVu Sans", "Noto Sans"});
+        font.setStyleHint(QFont::SansSerif);
+        font.setPixelSize(11 * scale);
+        painter.setFont(font);
+        for (int fret = 1; fret < 30; ++fret)
+            painter.drawText(4 * scale, (pitch * fret + 15 + 4) * scale, QString::number(fret));
+        return image;
     }
 
     Document document;
@@ -90,12 +125,28 @@ TEST_F(NeckPixels, ARedrawClearsWhatStoodThere) {
 TEST_F(NeckPixels, AnySurfaceAndAnyColumnIsDrawn) {
     for (const int column : {0, -5, 1 << 30}) {
         document.CurrentColumn = column;
-        for (const int height : {1, 2, 15, 16, 30, 44, 45, 200, 5000})
+        for (const int height : {1, 2, 15, 16, 30, 44, 45, 200, 1700})
             for (const int scale : {1, 2, 3}) {
                 view.setScale(scale);
                 view.picFretboard.resize(89, height);
                 draw();
+                // Frets as close as this bring the dots of empty strings onto the neck.
+                const bool dotsShown = fretPitch(height) == 0 || fretPitch(height) == 1;
+                const QRect part(0, 0, (dotsShown ? 15 : 89) * scale, height * scale);
+                ASSERT_TRUE(sameImage(view.picFretboard.image().copy(part),
+                                      plainNeck(height, scale).copy(part), "any_neck"))
+                    << height << " at scale " << scale << ", column " << column;
             }
+    }
+}
+
+TEST_F(NeckPixels, LabelsStandFourFromTheLeftInTheMiddleOfTheirLines) {
+    for (const int scale : {1, 2, 3}) {
+        view.setScale(scale);
+        draw();
+        const QImage expected = plainNeck(465, scale);
+        const QRect labels(0, 0, 20 * scale, 465 * scale);
+        ASSERT_TRUE(sameImage(view.picFretboard.image().copy(labels), expected.copy(labels), "labels"));
     }
 }
 

@@ -88,11 +88,21 @@ TEST_F(NotationPixels, AWholeNoteWipesWhatStandsLeftOfIt) {
 
 TEST_F(NotationPixels, APageWithoutAPixelToWipeWith) {
     document.setNote(0, 5, "0");
-    view.picDocument.resize(984, 1);
     draw();
-    view.picDocument.resize(1, 1);
+    const QImage strip = view.picStandardNotation.image().copy();
+    for (const int width : {984, 1}) {
+        view.picDocument.resize(width, 1);
+        draw();
+        EXPECT_TRUE(sameImage(view.picStandardNotation.image(), strip, "strip_of_a_flat_page"));
+        for (int x = 0; x < width; ++x)
+            ASSERT_EQ(page(x, 0), PaperColor) << x;
+    }
     document.CurrentStaff = 0; // its slot lies above the page
     draw();
+    EXPECT_EQ(page(0, 0), PaperColor);
+    QImage blank = strip;
+    blank.fill(White);
+    EXPECT_TRUE(sameImage(view.picStandardNotation.image(), blank, "strip_of_no_staff"));
 }
 
 TEST_F(NotationPixels, TechniquesStandBesideTheirHead) {
