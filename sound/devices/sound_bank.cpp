@@ -58,6 +58,12 @@ bool isSoundBank(const fs::path& file) {
            std::memcmp(head.data() + 8, "sfbk", 4) == 0;
 }
 
+QString shownName(const fs::path& file) {
+    const std::u8string bytes = file.u8string();
+    return QString::fromUtf8(reinterpret_cast<const char*>(bytes.data()),
+                             static_cast<qsizetype>(bytes.size()));
+}
+
 std::vector<fs::path> soundBanks(const SoundBankPlaces& places) {
     std::vector<fs::path> wanted;
     const auto append = [&wanted](const std::vector<fs::path>& more) {

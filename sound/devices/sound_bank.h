@@ -1,6 +1,8 @@
 // Which sound bank the synthesizer plays: the places where one may stand, in the order in which they count.
 #pragma once
 
+#include <QString>
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -20,6 +22,9 @@ std::vector<std::filesystem::path> soundBanks(const SoundBankPlaces& places);
 
 // Where systems keep sound banks.
 std::vector<std::filesystem::path> systemBankFolders();
+
+// A name as it is shown; what is no text in it becomes the replacement character.
+QString shownName(const std::filesystem::path& file);
 
 // An SF2 or SF3 file by its first bytes.
 bool isSoundBank(const std::filesystem::path& file);
