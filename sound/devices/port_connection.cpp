@@ -2,11 +2,18 @@
 
 #include "sound/devices/quiet_libraries.h"
 
+#include <chrono>
+#include <thread>
+
 namespace tabrova {
 
 namespace {
 
 constexpr char ClientName[] = "Tabrova";
+
+// A JACK port that goes takes along what the server has not yet passed on: the last messages stay away unless
+// the port waits for a period or two.
+constexpr std::chrono::milliseconds PassingOn(100);
 
 void keepTrouble(RtMidiError::Type type, const std::string& text, void* trouble) {
     if (type != RtMidiError::WARNING && type != RtMidiError::DEBUG_WARNING)
@@ -20,6 +27,10 @@ class SystemPortConnection : public PortConnection {
         out_.setErrorCallback(keepTrouble, &trouble_);
     }
 
+    ~SystemPortConnection() override {
+        if (kind_ == RtMidi::UNIX_JACK) std::this_thread::sleep_until(lastSent_ + PassingOn);
+    }
+
     unsigned count() override { return out_.getPortCount(); }
     std::string name(unsigned number) override { return out_.getPortName(number); }
     bool open(unsigned number) override {
@@ -27,6 +38,7 @@ class SystemPortConnection : public PortConnection {
         return trouble_.empty() && out_.isPortOpen();
     }
     bool send(const ShortMessage& message) override {
+        lastSent_ = std::chrono::steady_clock::now();
         out_.sendMessage(message.data(), bytesForPort(kind_, message));
         return trouble_.empty();
     }
@@ -35,6 +47,7 @@ class SystemPortConnection : public PortConnection {
   private:
     RtMidi::Api kind_;
     std::string trouble_;
+    std::chrono::steady_clock::time_point lastSent_;
     RtMidiOut out_;
 };
 
