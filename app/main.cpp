@@ -2,7 +2,9 @@
 #include "app/command_line.h"
 #include "app/program.h"
 #include "core/shell/frmMain.h"
+#include "platform/end_signals.h"
 #include "platform/paths.h"
+#include "platform/session_end.h"
 #include "sound/devices/system_midi_device.h"
 
 #include <QApplication>
@@ -11,6 +13,9 @@
 #include <cstdlib>
 
 namespace {
+
+// A server is given this long to take what was sent last; the window is gone by then.
+constexpr std::chrono::milliseconds EndTime(2000);
 
 // Where the sound bank may stand for this user.
 tabrova::SoundBankPlaces bankPlaces(const tabrova::SettingsStore& settings,
@@ -26,15 +31,15 @@ int tellTerminal(const tabrova::CommandLine& commandLine) {
     return code;
 }
 
-} // namespace
+tabrova::CommandLine read(int argc, char** argv) {
+    return tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
+}
 
-int main(int argc, char** argv) {
-    // Answered before the application object, which needs a display.
-    const tabrova::CommandLine asked =
-        tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
-    if (asked.exitCode) return tellTerminal(asked);
+// Runs the program; `code` is its exit code. False if a server has not let go of what it was asked.
+bool run(int argc, char** argv, int& code) {
     tabrova::prepareToolkit();
     QApplication application(argc, argv);
+    const tabrova::EndSignals endSignals([] { QCoreApplication::exit(0); });
     tabrova::DesktopMessageBoxes boxes;
     tabrova::DesktopFileChooser files;
     tabrova::DesktopAddressOpener addresses;
@@ -51,12 +56,27 @@ int main(int argc, char** argv) {
             std::_Exit(1);
         }};
     tabrova::frmMain window(services);
+    const tabrova::SessionEnd session([&window] { return window.commands().confirmLeaving(); });
     window.resizeClient(1000, 700);
     window.show();
     // Without the words that were the toolkit's.
-    const tabrova::CommandLine commandLine =
-        tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
+    const tabrova::CommandLine commandLine = read(argc, argv);
     tellTerminal(commandLine);
     window.Form_Load(commandLine.document, tabrova::frmMain::Splash::AsSettingsSay);
-    return QApplication::exec();
+    code = QApplication::exec();
+    window.endInOrder();
+    window.hide();
+    return midi.settles(EndTime);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // Answered before there is an application object, which needs a display.
+    const tabrova::CommandLine commandLine = read(argc, argv);
+    if (commandLine.exitCode) return tellTerminal(commandLine);
+    int code = 0;
+    if (run(argc, argv, code)) return code;
+    // A thread still waits inside a library: nothing may wait for it, neither a destructor nor the unloading.
+    std::_Exit(code);
 }

@@ -136,6 +136,13 @@ void frmMain::resizeClient(int width, int height) {
 
 void frmMain::closeEvent(QCloseEvent* event) {
     if (!commands_.confirmLeaving()) return event->ignore();
+    endInOrder();
+    event->accept();
+    QCoreApplication::exit(0);
+}
+
+void frmMain::endInOrder() {
+    if (std::exchange(ended_, true)) return;
     StopTimer();
     StopTimer();
     sound_.AllNotesOff();
@@ -147,8 +154,6 @@ void frmMain::closeEvent(QCloseEvent* event) {
     delete options_;
     options_ = nullptr;
     sound_.CloseMidiDevice();
-    event->accept();
-    QCoreApplication::exit(0);
 }
 
 void frmMain::showAbout() {

@@ -41,6 +41,9 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     enum class Splash { AsSettingsSay, Never };
     // The start of the program, in its fixed order. An empty command line shows the welcome window.
     void Form_Load(const QString& commandLine, Splash splash);
+    // The steps of closing, without a question: playback stops, notes end, windows go, the device closes.
+    // Once.
+    void endInOrder();
 
     // Enables or disables all that must stand still during playback.
     void ToggleMenus(bool enabled);
@@ -170,6 +173,7 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     std::unique_ptr<MainMenu> menu_;
     WindowLayout layout_;
     bool loaded_ = false;
+    bool ended_ = false;
     bool splashWanted_ = false;
     bool debugMode_ = false;
 

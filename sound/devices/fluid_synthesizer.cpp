@@ -1,247 +1,184 @@
 #include "sound/devices/fluid_synthesizer.h"
 
-#include "sound/devices/quiet_libraries.h"
+#include "platform/paths.h"
+#include "sound/devices/fluid_engine.h"
 
-#include <QFileInfo>
-
-#include <algorithm>
+#include <array>
+#include <mutex>
+#include <optional>
 
 namespace tabrova {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr int HighestData = 127;
-constexpr int ControllerAllSoundOff = 120;
-constexpr int MostVoices = 256;
-constexpr double SampleRate = 48000.0;
-constexpr double Gain = 0.8;
-constexpr double ReverbLevel = 0.3; // a small room: what is stopped is soon silent
-
-// The audio outputs in the order in which they are tried.
-struct AudioOutput {
-    const char* driver;
-    const char* name;
-    int periodSize; // frames
-    int periods;
-};
-constexpr std::array Outputs = {AudioOutput{"pulseaudio", "PulseAudio", 512, 2},
-                                AudioOutput{"pipewire", "PipeWire", 512, 2},
-                                AudioOutput{"jack", "JACK", 256, 2},
-                                AudioOutput{"alsa", "ALSA", 256, 3},
-                                AudioOutput{"coreaudio", "CoreAudio", 256, 2},
-                                AudioOutput{"wasapi", "WASAPI", 256, 3},
-                                AudioOutput{"dsound", "DirectSound", 256, 4},
-                                AudioOutput{"portaudio", "PortAudio", 256, 3},
-                                AudioOutput{"oboe", "Oboe", 256, 2},
-                                AudioOutput{"oss", "OSS", 256, 3}};
-
-QString textOf(const std::filesystem::path& path) { return QString::fromStdU16String(path.u16string()); }
-
-std::vector<std::string> builtInDrivers(fluid_settings_t* settings) {
-    std::vector<std::string> names;
-    fluid_settings_foreach_option(settings, "audio.driver", &names,
-                                  [](void* list, const char*, const char* name) {
-                                      static_cast<std::vector<std::string>*>(list)->push_back(name);
-                                  });
-    return names;
-}
-
-// The synthesizer's library writes nothing to the terminal: what matters is in the state.
-void silenceLibraryLog() {
-    for (const int level : {FLUID_PANIC, FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG})
-        fluid_set_log_function(
-            level, [](int, const char*, void*) {}, nullptr);
-}
+constexpr int StatusProgram = 0xC0;
+constexpr std::chrono::milliseconds WatchInterval(500);
+constexpr char NoAnswer[] =
+    "The sound server does not answer, so nothing can be heard. It sounds as soon as the "
+    "server answers again; if it does not, restart the sound server (on Debian "
+    "pipewire-pulse, pulseaudio or jackd).";
 
 } // namespace
 
-FluidSynthesizer::FluidSynthesizer(SoundBankPlaces places) : places_(std::move(places)) {
-    silenceLibraryLog();
-    silenceSoundLibraries();
+// What the window's thread and the calls share.
+struct FluidSynthesizer::Shared {
+    Shared(std::shared_ptr<SoundEngine> played, QObject* told) : engine(std::move(played)), window(told) {}
+
+    void load(const SoundBankPlaces& places, int opening, const std::function<void()>& tell);
+    void closeOutput();
+    QString openOutput();
+    void finishLoading(const QString& trouble, int opening);
+    bool isOpening(int opening) const;
+    void setWaiting(bool waiting);
+    void tellChanged(const std::function<void()>& tell);
+
+    const std::shared_ptr<SoundEngine> engine;
+
+    mutable std::mutex mutex; // guards what follows
+    QObject* window;          // null when nobody is to be told any more
+    bool ready = false;
+    int opened = 0;                                       // the number of the last opening
+    std::optional<Clock::time_point> waiting;             // since when a server has been asked
+    SynthesizerState state;                               // but for a server that does not answer
+    std::array<std::optional<std::uint8_t>, 16> programs; // chosen while the bank loads
+};
+
+FluidSynthesizer::FluidSynthesizer(SoundBankPlaces places)
+    : FluidSynthesizer(std::move(places), std::make_shared<FluidEngine>()) {}
+
+FluidSynthesizer::FluidSynthesizer(SoundBankPlaces places, std::shared_ptr<SoundEngine> engine)
+    : places_(std::move(places)), shared_(std::make_shared<Shared>(std::move(engine), &watch_)) {
+    watch_.setInterval(WatchInterval);
+    watch_.callOnTimeout([this] { watch(); });
 }
 
-FluidSynthesizer::~FluidSynthesizer() { close(); }
+FluidSynthesizer::~FluidSynthesizer() {
+    close();
+    const std::lock_guard lock(shared_->mutex);
+    shared_->window = nullptr;
+}
 
 void FluidSynthesizer::open() {
     close();
+    int opening = 0;
     {
-        const std::lock_guard lock(mutex_);
-        programs_ = {};
-        state_.running = true;
-        state_.loading = true;
-        state_.trouble.clear();
+        const std::lock_guard lock(shared_->mutex);
+        opening = ++shared_->opened;
+        shared_->programs = {};
+        shared_->state.running = true;
+        shared_->state.loading = true;
+        shared_->state.trouble.clear();
     }
-    loader_ = std::thread([this, places = places_] { load(places); });
-    tellChanged();
+    const auto tell = [this] {
+        if (changed) changed();
+    };
+    calls_.post([shared = shared_, places = places_, opening, tell] { shared->load(places, opening, tell); });
+    watch_.start();
+    shared_->tellChanged(tell);
 }
 
+// The output goes in the background if its server takes its time.
 void FluidSynthesizer::close() {
-    waitUntilLoaded();
     {
-        const std::lock_guard lock(mutex_);
-        ready_ = false;
-        state_.running = false;
-        state_.output.clear();
+        const std::lock_guard lock(shared_->mutex);
+        ++shared_->opened;
+        shared_->ready = false;
+        shared_->state.running = false;
+        shared_->state.loading = false;
+        shared_->state.output.clear();
     }
-    driver_.reset();
-    if (synth_) fluid_synth_all_sounds_off(synth_.get(), -1);
-    tellChanged();
+    calls_.post([shared = shared_] { shared->closeOutput(); });
+    calls_.finishes(AnswerTime);
+    shared_->tellChanged([this] {
+        if (changed) changed();
+    });
 }
 
 void FluidSynthesizer::waitUntilLoaded() {
-    if (loader_.joinable()) loader_.join();
+    while (!calls_.finishes(HangTime)) {
+    }
 }
 
 void FluidSynthesizer::useBank(const QString& file) {
-    places_.setting = std::filesystem::path(file.toStdU16String());
+    places_.setting = pathOf(file);
     if (state().running) open();
 }
 
 SynthesizerState FluidSynthesizer::state() const {
-    const std::lock_guard lock(mutex_);
-    return state_;
+    const std::lock_guard lock(shared_->mutex);
+    SynthesizerState told = shared_->state;
+    if (told.loading && shared_->waiting && Clock::now() - *shared_->waiting > HangTime)
+        told.trouble = NoAnswer;
+    return told;
 }
 
-void FluidSynthesizer::tellChanged() {
-    QMetaObject::invokeMethod(
-        &thread_,
-        [this] {
-            if (changed) changed();
-        },
-        Qt::QueuedConnection);
-}
-
-void FluidSynthesizer::load(const SoundBankPlaces& places) {
-    makeSynthesizer();
-    QString trouble = loadBank(places);
-    if (bankId_ != FLUID_FAILED) trouble += openOutput();
-    finishLoading(trouble.trimmed());
-}
-
-void FluidSynthesizer::makeSynthesizer() {
-    if (synth_) return;
-    settings_.reset(new_fluid_settings());
-    fluid_settings_setnum(settings_.get(), "synth.sample-rate", SampleRate);
-    fluid_settings_setnum(settings_.get(), "synth.gain", Gain);
-    fluid_settings_setnum(settings_.get(), "synth.reverb.level", ReverbLevel);
-    fluid_settings_setint(settings_.get(), "synth.chorus.active", 0);
-    fluid_settings_setint(settings_.get(), "synth.polyphony", MostVoices);
-    fluid_settings_setint(settings_.get(), "audio.jack.autoconnect", 1);
-    fluid_settings_setstr(settings_.get(), "audio.jack.id", "Tabrova");
-    fluid_settings_setint(settings_.get(), "audio.pulseaudio.adjust-latency", 1);
-    synth_.reset(new_fluid_synth(settings_.get()));
-}
-
-// The first bank that loads; the one in use stays as it is.
-QString FluidSynthesizer::loadBank(const SoundBankPlaces& places) {
-    const auto banks = soundBanks(places);
-    for (const auto& bank : banks) {
-        if (bankId_ != FLUID_FAILED && bank == bankFile_) break;
-        const int id = fluid_synth_sfload(synth_.get(), textOf(bank).toUtf8().constData(), 1);
-        if (id == FLUID_FAILED) continue;
-        if (bankId_ != FLUID_FAILED) fluid_synth_sfunload(synth_.get(), static_cast<unsigned>(bankId_), 1);
-        bankId_ = id;
-        bankFile_ = bank;
-        break;
-    }
-    if (bankId_ == FLUID_FAILED)
-        return "No sound bank was found, so nothing can be heard. Install one (on Debian the package "
-               "timgm6mb-soundfont or fluid-soundfont-gm) or choose an SF2 or SF3 file. ";
-    if (!places.setting.empty() && bankFile_ != places.setting)
-        return QFileInfo(textOf(places.setting)).fileName() +
-               " is no sound bank that can be read; another one is in use. ";
-    return {};
-}
-
-QString FluidSynthesizer::openOutput() {
-    const auto available = builtInDrivers(settings_.get());
-    for (const AudioOutput& output : Outputs) {
-        if (std::find(available.begin(), available.end(), output.driver) == available.end()) continue;
-        fluid_settings_setstr(settings_.get(), "audio.driver", output.driver);
-        fluid_settings_setint(settings_.get(), "audio.period-size", output.periodSize);
-        fluid_settings_setint(settings_.get(), "audio.periods", output.periods);
-        driver_.reset(new_fluid_audio_driver(settings_.get(), synth_.get()));
-        if (!driver_) continue;
-        const std::lock_guard lock(mutex_);
-        state_.output = output.name;
-        return {};
-    }
-    return "No audio output could be opened, so nothing can be heard. Connect a sound card, or start a sound "
-           "server (on Debian the package pipewire-pulse or pulseaudio), then choose the output device "
-           "again. ";
-}
-
-void FluidSynthesizer::finishLoading(const QString& trouble) {
-    {
-        const std::lock_guard lock(mutex_);
-        state_.loading = false;
-        state_.bank = bankId_ == FLUID_FAILED ? QString() : textOf(bankFile_);
-        state_.trouble = trouble;
-        ready_ = driver_ && bankId_ != FLUID_FAILED;
-        for (std::size_t channel = 0; ready_ && channel < programs_.size(); ++channel)
-            if (programs_[channel])
-                fluid_synth_program_change(synth_.get(), static_cast<int>(channel), *programs_[channel]);
-    }
-    tellChanged();
+// Tells once that a server does not answer; when it does, that is told like any other loading.
+void FluidSynthesizer::watch() {
+    const SynthesizerState told = state();
+    if (told.loading && told.trouble.isEmpty()) return;
+    watch_.stop();
+    if (told.loading && changed) changed();
 }
 
 void FluidSynthesizer::send(const ShortMessage& message) {
-    const std::lock_guard lock(mutex_);
     if (message[1] > HighestData || message[2] > HighestData) return;
-    if (ready_) return play(message);
-    if ((message[0] & 0xF0) == 0xC0) programs_[message[0] & 0x0F] = message[1];
+    const std::lock_guard lock(shared_->mutex);
+    if (shared_->ready) return shared_->engine->play(message);
+    if ((message[0] & 0xF0) == StatusProgram) shared_->programs[message[0] & 0x0F] = message[1];
 }
 
-void FluidSynthesizer::play(const ShortMessage& message) {
-    fluid_synth_t* synth = synth_.get();
-    const int channel = message[0] & 0x0F;
-    switch (message[0] & 0xF0) {
-    case 0x80:
-        fluid_synth_noteoff(synth, channel, message[1]);
-        break;
-    case 0x90:
-        if (message[2] == 0 || hasRoomForNote()) fluid_synth_noteon(synth, channel, message[1], message[2]);
-        break;
-    case 0xB0:
-        if (message[1] == ControllerAllSoundOff) return cutChannel(channel);
-        fluid_synth_cc(synth, channel, message[1], message[2]);
-        break;
-    case 0xC0:
-        fluid_synth_program_change(synth, channel, message[1]);
-        break;
-    case 0xE0:
-        fluid_synth_pitch_bend(synth, channel, message[1] + message[2] * 128);
-        break;
-    default:
-        break;
-    }
+void FluidSynthesizer::Shared::tellChanged(const std::function<void()>& tell) {
+    const std::lock_guard lock(mutex);
+    if (window) QMetaObject::invokeMethod(window, tell, Qt::QueuedConnection);
 }
 
-// Fades what sounds within a hundredth of a second: a cut to nothing clicks. The library's own cut is also
-// undone by the all-notes-off that follows it.
-void FluidSynthesizer::cutChannel(int channel) {
-    constexpr float TenMilliseconds = -7973.0f; // in timecents
-    std::array<fluid_voice_t*, MostVoices> voices{};
-    fluid_synth_get_voicelist(synth_.get(), voices.data(), MostVoices, -1);
-    for (fluid_voice_t* voice : voices) {
-        if (!voice) break;
-        if (fluid_voice_get_channel(voice) != channel) continue;
-        fluid_voice_gen_set(voice, GEN_VOLENVRELEASE, TenMilliseconds);
-        fluid_voice_update_param(voice, GEN_VOLENVRELEASE);
-    }
-    fluid_synth_all_notes_off(synth_.get(), channel);
+bool FluidSynthesizer::Shared::isOpening(int opening) const {
+    const std::lock_guard lock(mutex);
+    return opening == opened;
 }
 
-// More notes at one moment than there are voices only take each other's place, at great cost: they are passed
-// over.
-bool FluidSynthesizer::hasRoomForNote() {
-    constexpr std::chrono::milliseconds Moment(5);
-    const auto now = std::chrono::steady_clock::now();
-    if (now - burstStart_ > Moment) {
-        burstStart_ = now;
-        notesInBurst_ = 0;
-    }
-    return ++notesInBurst_ <= MostVoices;
+void FluidSynthesizer::Shared::setWaiting(bool isWaiting) {
+    const std::lock_guard lock(mutex);
+    waiting = isWaiting ? std::optional(Clock::now()) : std::nullopt;
+}
+
+// What was closed again meanwhile is not opened any further.
+void FluidSynthesizer::Shared::load(const SoundBankPlaces& places, int opening,
+                                    const std::function<void()>& tell) {
+    if (!isOpening(opening)) return;
+    QString trouble = engine->loadBank(places);
+    if (!engine->bank().empty() && isOpening(opening)) trouble += openOutput();
+    finishLoading(trouble.trimmed(), opening);
+    tellChanged(tell);
+}
+
+QString FluidSynthesizer::Shared::openOutput() {
+    setWaiting(true);
+    const QString trouble = engine->openOutput();
+    setWaiting(false);
+    return trouble;
+}
+
+void FluidSynthesizer::Shared::closeOutput() {
+    setWaiting(true);
+    engine->closeOutput();
+    setWaiting(false);
+}
+
+void FluidSynthesizer::Shared::finishLoading(const QString& trouble, int opening) {
+    const std::lock_guard lock(mutex);
+    state.bank = textOf(engine->bank());
+    if (opening != opened) return;
+    state.loading = false;
+    state.output = engine->output();
+    state.trouble = trouble;
+    ready = !engine->output().isEmpty() && !engine->bank().empty();
+    for (std::size_t channel = 0; ready && channel < programs.size(); ++channel)
+        if (programs[channel])
+            engine->play({static_cast<std::uint8_t>(StatusProgram + channel), *programs[channel], 0});
 }
 
 } // namespace tabrova

@@ -1,27 +1,23 @@
 // The built-in synthesizer: it runs inside the program, plays a sound bank and needs nothing to be set up.
-// Bank and audio output are opened on a thread of their own, so that the window does not wait; what is sent
-// meanwhile is not heard, but the instruments chosen meanwhile are. Nothing here ever fails to the caller:
-// what is missing is told by the state, and the editor works on in silence.
+// Bank and audio output are opened and closed on a thread of their own, so that the window waits neither for
+// the disk nor for a sound server; what is sent before they are open is not heard, but the instruments chosen
+// meanwhile are. Nothing here ever fails to the caller: what is missing is told by the state, and the editor
+// works on in silence.
 #pragma once
 
 #include "platform/midi_device.h"
 #include "platform/synthesizer.h"
-#include "sound/devices/sound_bank.h"
+#include "sound/devices/call_queue.h"
+#include "sound/devices/sound_engine.h"
 
-#include <QObject>
-
-#include <fluidsynth.h>
-
-#include <chrono>
-#include <memory>
-#include <mutex>
-#include <thread>
+#include <QTimer>
 
 namespace tabrova {
 
 class FluidSynthesizer : public Synthesizer {
   public:
     explicit FluidSynthesizer(SoundBankPlaces places);
+    FluidSynthesizer(SoundBankPlaces places, std::shared_ptr<SoundEngine> engine);
     ~FluidSynthesizer() override;
 
     void open();
@@ -32,44 +28,19 @@ class FluidSynthesizer : public Synthesizer {
     SynthesizerState state() const override;
     void useBank(const QString& file) override;
 
-    // Waits until bank and output are open or known to be missing.
+    // Waits until bank and output are open or known to be missing, however long that takes.
     void waitUntilLoaded();
+    // False if a sound server still keeps a call after that time.
+    bool settles(std::chrono::milliseconds limit) { return calls_.finishes(limit); }
 
   private:
-    template <typename Type, void (*destroy)(Type*)>
-    struct Destroy {
-        void operator()(Type* object) const { destroy(object); }
-    };
-    template <typename Type, void (*destroy)(Type*)>
-    using Owned = std::unique_ptr<Type, Destroy<Type, destroy>>;
-
-    void load(const SoundBankPlaces& places);
-    void makeSynthesizer();
-    QString loadBank(const SoundBankPlaces& places);
-    QString openOutput();
-    void play(const ShortMessage& message);
-    void cutChannel(int channel);
-    bool hasRoomForNote();
-    void finishLoading(const QString& trouble);
-    void tellChanged();
+    struct Shared;
+    void watch();
 
     SoundBankPlaces places_;
-    QObject thread_; // belongs to the user-interface thread
-    std::thread loader_;
-
-    // Only the loader touches these while it runs.
-    Owned<fluid_settings_t, delete_fluid_settings> settings_;
-    Owned<fluid_synth_t, delete_fluid_synth> synth_;
-    Owned<fluid_audio_driver_t, delete_fluid_audio_driver> driver_;
-    std::filesystem::path bankFile_;
-    int bankId_ = FLUID_FAILED;
-
-    mutable std::mutex mutex_; // guards what follows
-    bool ready_ = false;
-    SynthesizerState state_;
-    std::array<std::optional<std::uint8_t>, 16> programs_; // chosen while the bank loads
-    std::chrono::steady_clock::time_point burstStart_;
-    int notesInBurst_ = 0;
+    std::shared_ptr<Shared> shared_; // with the calls, which may outlive this
+    CallQueue calls_;
+    QTimer watch_; // belongs to the user-interface thread
 };
 
 } // namespace tabrova

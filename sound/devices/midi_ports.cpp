@@ -7,46 +7,45 @@ namespace tabrova {
 namespace {
 
 constexpr int PortFailed = 2;
-constexpr char ClientName[] = "Tabrova";
-
-void keepTrouble(RtMidiError::Type type, const std::string& text, void* trouble) {
-    if (type != RtMidiError::WARNING && type != RtMidiError::DEBUG_WARNING)
-        *static_cast<std::string*>(trouble) = text;
-}
 
 } // namespace
 
-MidiPorts::MidiPorts() { silenceSoundLibraries(); }
-
-MidiPorts::~MidiPorts() = default;
-
-// Null where the service of this kind does not run.
-std::unique_ptr<RtMidiOut> MidiPorts::connection(RtMidi::Api kind) {
-    const QuietErrorStream quiet;
-    try {
-        auto out = std::make_unique<RtMidiOut>(kind, ClientName);
-        out->setErrorCallback(keepTrouble, &trouble_);
-        return out;
-    } catch (const RtMidiError& failure) {
-        trouble_ = failure.getMessage();
-        return nullptr;
-    }
+void MidiPorts::OpenPort::fail(std::string why) {
+    const std::lock_guard lock(mutex_);
+    failure_ = std::move(why);
 }
+
+std::optional<std::string> MidiPorts::OpenPort::failure() const {
+    const std::lock_guard lock(mutex_);
+    return failure_;
+}
+
+MidiPorts::MidiPorts(const std::vector<RtMidi::Api>& kinds, ConnectToPorts connect)
+    : connect_(std::move(connect)) {
+    silenceSoundLibraries();
+    for (const RtMidi::Api kind : kinds)
+        kinds_.emplace_back(kind);
+}
+
+MidiPorts::~MidiPorts() { close(); }
 
 void MidiPorts::list() {
     ports_.clear();
-    std::vector<RtMidi::Api> kinds;
-    RtMidi::getCompiledApi(kinds);
-    for (const RtMidi::Api kind : kinds)
-        if (kind != RtMidi::RTMIDI_DUMMY) listKind(kind);
+    for (Kind& kind : kinds_)
+        listKind(kind);
 }
 
-void MidiPorts::listKind(RtMidi::Api kind) {
-    const auto out = connection(kind);
-    if (!out) return;
-    const unsigned count = out->getPortCount();
-    for (unsigned number = 0; number < count; ++number)
-        ports_.push_back({kind, number, out->getPortName(number)});
+void MidiPorts::listKind(Kind& kind) {
+    const auto names = std::make_shared<std::vector<std::string>>();
+    kind.calls.post([api = kind.api, names, connect = connect_] {
+        const auto connection = connect(api);
+        const unsigned count = connection ? connection->count() : 0;
+        for (unsigned number = 0; number < count; ++number)
+            names->push_back(connection->name(number));
+    });
+    if (!kind.calls.finishes(AnswerTime)) return;
+    for (unsigned number = 0; number < names->size(); ++number)
+        ports_.push_back({&kind, number, (*names)[number]});
 }
 
 std::optional<QString> MidiPorts::name(int number) const {
@@ -55,33 +54,55 @@ std::optional<QString> MidiPorts::name(int number) const {
     return text.empty() ? std::nullopt : std::optional<QString>(QString::fromStdString(text));
 }
 
+int MidiPorts::failed(std::string why) {
+    trouble_ = std::move(why);
+    return PortFailed;
+}
+
 int MidiPorts::open(int number) {
     close();
-    trouble_.clear();
-    if (number < 0 || number >= count()) return PortFailed;
+    if (number < 0 || number >= count()) return failed({});
     const Port& port = ports_[static_cast<std::size_t>(number)];
-    auto out = connection(port.kind);
-    if (!out) return PortFailed;
-    out->openPort(port.number, ClientName);
-    if (!trouble_.empty() || !out->isPortOpen()) return PortFailed;
-    open_ = std::move(out);
+    CallQueue& calls = port.kind->calls;
+    const auto opened = std::make_shared<OpenPort>();
+    calls.post([opened, api = port.kind->api, place = port.number, connect = connect_] {
+        auto connection = connect(api);
+        if (!connection) return opened->fail({});
+        if (!connection->open(place)) return opened->fail(connection->trouble());
+        opened->connection = std::move(connection);
+    });
+    calls.finishes(AnswerTime);
+    if (const auto why = opened->failure()) return failed(*why);
+    open_ = opened;
+    openCalls_ = &calls;
     return 0;
 }
 
-void MidiPorts::close() { open_.reset(); }
-
-int MidiPorts::send(const ShortMessage& message) {
-    if (!open_) return PortFailed;
-    trouble_.clear();
-    open_->sendMessage(message.data(), bytesForPort(open_->getCurrentApi(), message));
-    return trouble_.empty() ? 0 : PortFailed;
+void MidiPorts::close() {
+    if (!open_) return;
+    openCalls_->post([port = std::exchange(open_, nullptr)] { port->connection.reset(); });
+    openCalls_->finishes(AnswerTime);
 }
 
-std::size_t bytesForPort(RtMidi::Api kind, const ShortMessage& message) {
-    const int status = message[0] & 0xF0;
-    const bool twoBytes = status == 0xC0 || status == 0xD0;
-    const bool wholeEvents = kind == RtMidi::LINUX_ALSA || kind == RtMidi::MACOSX_CORE;
-    return twoBytes && wholeEvents ? 2 : message.size();
+int MidiPorts::send(const ShortMessage& message) {
+    if (!open_) return failed({});
+    if (const auto why = open_->failure()) return failed(*why);
+    if (openCalls_->hangs()) return 0;
+    openCalls_->post([port = open_, message] {
+        if (port->connection && !port->connection->send(message)) port->fail(port->connection->trouble());
+    });
+    return 0;
+}
+
+bool MidiPorts::settles(std::chrono::milliseconds limit) {
+    const auto end = std::chrono::steady_clock::now() + limit;
+    bool settled = true;
+    for (Kind& kind : kinds_) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
+        settled = kind.calls.finishes(std::max(left, std::chrono::milliseconds(0))) && settled;
+    }
+    return settled;
 }
 
 } // namespace tabrova

@@ -2,23 +2,19 @@
 // error here: such a service simply has no ports, and what matters is told in the window.
 #pragma once
 
-#include <streambuf>
-
 namespace tabrova {
 
 // The libraries that are there write nothing from now on.
 void silenceSoundLibraries();
 
-// Nothing reaches the standard error stream while this lives.
+// What this thread writes to the standard error stream while this lives is dropped. Other threads still
+// write.
 class QuietErrorStream {
   public:
     QuietErrorStream();
     QuietErrorStream(const QuietErrorStream&) = delete;
     QuietErrorStream& operator=(const QuietErrorStream&) = delete;
     ~QuietErrorStream();
-
-  private:
-    std::streambuf* kept_;
 };
 
 } // namespace tabrova

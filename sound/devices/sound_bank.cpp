@@ -1,5 +1,7 @@
 #include "sound/devices/sound_bank.h"
 
+#include "platform/paths.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -78,7 +80,7 @@ std::vector<fs::path> systemBankFolders() {
     std::vector<fs::path> folders;
     for (const QString& base : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
         for (const char* folder : SystemSubfolders)
-            folders.push_back(fs::path(base.toStdU16String()) / folder);
+            folders.push_back(pathOf(base) / folder);
     return folders;
 }
 

@@ -19,6 +19,12 @@ class SystemMidiDevice : public MidiDevice {
     int midiOutShortMsg(std::uint32_t handle, const ShortMessage& message) override;
     QString midiOutGetErrorTextA(int code) const override;
 
+    // Whether, at the end of the program, every server has let go within that time. If not, nothing may wait
+    // for the threads that are left.
+    bool settles(std::chrono::milliseconds limit) {
+        return synthesizer_.settles(limit) && ports_.settles(limit);
+    }
+
   private:
     FluidSynthesizer& synthesizer_;
     MidiPorts ports_;

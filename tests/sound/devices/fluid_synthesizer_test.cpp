@@ -107,11 +107,18 @@ TEST_F(Synthesizers, TakeEveryMessageAtAnyTime) {
 }
 
 TEST_F(Synthesizers, EndWhileTheyLoad) {
+    int changes = 0;
     for (int round = 0; round < 3; ++round) {
         FluidSynthesizer synthesizer(systemPlaces());
+        synthesizer.changed = [&changes] { ++changes; };
         synthesizer.open();
         synthesizer.open();
+        const SynthesizerState state = synthesizer.state();
+        EXPECT_TRUE(state.running);
+        EXPECT_EQ(state.output, "");
     }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changes, 0) << "there is nobody to be told any more";
 }
 
 TEST_F(Synthesizers, AreTheMapperAndNeverFail) {
