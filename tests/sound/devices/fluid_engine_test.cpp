@@ -173,7 +173,7 @@ TEST_F(Engine, TakesABankWhoseNameIsNoText) {
 TEST_F(Engine, NamesTheBankThatCannotBeReadEvenIfTheNameIsNoText) {
     places.setting = fs::path(folder.path().toStdString()) / "\xff\xfe.sf2";
     const QString trouble = engine.loadBank(places);
-    EXPECT_TRUE(trouble.startsWith(QString(2, QChar::ReplacementCharacter) + ".sf2 is no sound bank"))
+    EXPECT_TRUE(trouble.startsWith(QString{QChar(0xDCFF), QChar(0xDCFE)} + ".sf2 is no sound bank"))
         << trouble.toStdString();
     EXPECT_EQ(engine.bank(), installedBank());
 }
