@@ -14,9 +14,9 @@ constexpr int Rows = 3;
 
 // The number of a grid line, if the place stands on one.
 std::optional<int> lineAt(int place, int first, int count) {
+    if (place < first || (place - first) % CellSize != 0) return std::nullopt;
     const int line = (place - first) / CellSize;
-    if (place < first || (place - first) % CellSize != 0 || line >= count) return std::nullopt;
-    return line;
+    return line < count ? std::optional<int>(line) : std::nullopt;
 }
 
 } // namespace

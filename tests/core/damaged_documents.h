@@ -37,7 +37,7 @@ inline std::string endsBehindTrackCount(const std::string& tracks) {
 inline std::vector<DamagedDocument> damagedDocuments() {
     std::vector<DamagedDocument> list = {
         {"no bytes at all", ""},
-        {"bytes that are no text", std::string("\x7F\x45\x4C\x46\x00\x01\r\n\xFF\xFE\r\n\x00\r\n", 18)},
+        {"bytes that are no text", std::string("\x7F\x45\x4C\x46\x00\x01\r\n\xFF\xFE\r\n\x00\r\n", 15)},
         {"a speed that is no number", "Song\r\nMe\r\n1\r\nfast\r\n"},
         {"notes of several lines", "Song\r\nMe\r\n1\r\n 480 \r\nfirst\r\nsecond\r\nFalse\r\n 1 \r\n"},
         {"no number of staves", damagedHeader(" 3 ", "many")},
