@@ -4,6 +4,7 @@
 #include "tests/tabview/plain_blitter.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
@@ -69,7 +70,8 @@ TEST_F(Welcome, WhatThePointerOrTheKeyboardReachesIsHighlightedAndNamed) {
     for (const QEvent::Type type : {QEvent::MouseMove, QEvent::FocusIn})
         for (int index = 0; index < 4; ++index) {
             if (type == QEvent::FocusIn) {
-                option(index).setFocus();
+                QFocusEvent focus(QEvent::FocusIn);
+                QApplication::sendEvent(&option(index), &focus);
             } else {
                 QTest::mouseMove(&option(index), QPoint(40, 40));
                 QTest::mouseMove(&option(index), QPoint(41, 40));
