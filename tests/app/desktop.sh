@@ -5,6 +5,7 @@
 
 work="$(mktemp -d)"
 processes=()
+declare -A logs
 passed=0
 failed=0
 
@@ -83,6 +84,7 @@ launch() {
     setsid "$@" </dev/null >"$log" 2>&1 &
     launched=$!
     processes+=("$launched")
+    logs[$launched]="$log"
 }
 
 state_of() { ps -o stat= -p "$1" || echo "ended"; }
@@ -180,5 +182,5 @@ exits_normally() {
     wait_until 15 ended "$1" || { echo "still running after 15 seconds"; return 1; }
     wait "$1" || code=$?
     echo "exit code $code"
-    [ "$code" -eq 0 ]
+    [ "$code" -eq 0 ] || { tail -n 40 "${logs[$1]}"; return 1; }
 }
