@@ -29,8 +29,6 @@ class SessionEnd : public QObject {
   public:
     explicit SessionEnd(std::function<bool()> ask);
     void asked(Session& session) { agreed_ = agreesToSessionEnd(session, ask_); }
-
-  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:

@@ -176,9 +176,12 @@ void FluidSynthesizer::Shared::finishLoading(const QString& trouble, int opening
     state.output = engine->output();
     state.trouble = trouble;
     ready = !engine->output().isEmpty() && !engine->bank().empty();
-    for (std::size_t channel = 0; ready && channel < programs.size(); ++channel)
-        if (programs[channel])
-            engine->play({static_cast<std::uint8_t>(StatusProgram + channel), *programs[channel], 0});
+    if (!ready) return;
+    std::uint8_t status = StatusProgram;
+    for (const auto& program : programs) {
+        if (program) engine->play({status, *program, 0});
+        ++status;
+    }
 }
 
 } // namespace tabrova

@@ -6,7 +6,17 @@ namespace tabrova {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr int PortFailed = 2;
+// A kind that is not listed is not there for the whole run, so a busy machine gets more than a moment; the
+// list is made once, at the start.
+constexpr std::chrono::milliseconds ListTime(700);
+
+std::chrono::milliseconds timeLeft(Clock::time_point end) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+    return std::max(left, std::chrono::milliseconds(0));
+}
 
 } // namespace
 
@@ -29,23 +39,29 @@ MidiPorts::MidiPorts(const std::vector<RtMidi::Api>& kinds, ConnectToPorts conne
 
 MidiPorts::~MidiPorts() { close(); }
 
+// All kinds are asked at once, so that they share the time.
 void MidiPorts::list() {
     ports_.clear();
+    std::vector<std::shared_ptr<Names>> found;
     for (Kind& kind : kinds_)
-        listKind(kind);
+        found.push_back(askForNames(kind));
+    const auto end = Clock::now() + ListTime;
+    for (std::size_t at = 0; at < found.size(); ++at) {
+        if (!kinds_[at].calls.finishes(timeLeft(end))) continue;
+        for (unsigned number = 0; number < found[at]->size(); ++number)
+            ports_.push_back({&kinds_[at], number, (*found[at])[number]});
+    }
 }
 
-void MidiPorts::listKind(Kind& kind) {
-    const auto names = std::make_shared<std::vector<std::string>>();
+std::shared_ptr<MidiPorts::Names> MidiPorts::askForNames(Kind& kind) {
+    auto names = std::make_shared<Names>();
     kind.calls.post([api = kind.api, names, connect = connect_] {
         const auto connection = connect(api);
         const unsigned count = connection ? connection->count() : 0;
         for (unsigned number = 0; number < count; ++number)
             names->push_back(connection->name(number));
     });
-    if (!kind.calls.finishes(AnswerTime)) return;
-    for (unsigned number = 0; number < names->size(); ++number)
-        ports_.push_back({&kind, number, (*names)[number]});
+    return names;
 }
 
 std::optional<QString> MidiPorts::name(int number) const {
@@ -95,13 +111,10 @@ int MidiPorts::send(const ShortMessage& message) {
 }
 
 bool MidiPorts::settles(std::chrono::milliseconds limit) {
-    const auto end = std::chrono::steady_clock::now() + limit;
+    const auto end = Clock::now() + limit;
     bool settled = true;
-    for (Kind& kind : kinds_) {
-        const auto left =
-            std::chrono::duration_cast<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
-        settled = kind.calls.finishes(std::max(left, std::chrono::milliseconds(0))) && settled;
-    }
+    for (Kind& kind : kinds_)
+        settled = kind.calls.finishes(timeLeft(end)) && settled;
     return settled;
 }
 

@@ -55,7 +55,8 @@ class MidiPorts {
         mutable std::mutex mutex_;
         std::optional<std::string> failure_;
     };
-    void listKind(Kind& kind);
+    using Names = std::vector<std::string>;
+    std::shared_ptr<Names> askForNames(Kind& kind);
     int failed(std::string why);
 
     ConnectToPorts connect_;

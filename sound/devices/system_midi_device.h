@@ -9,7 +9,10 @@ namespace tabrova {
 
 class SystemMidiDevice : public MidiDevice {
   public:
-    explicit SystemMidiDevice(FluidSynthesizer& synthesizer) : synthesizer_(synthesizer) {}
+    explicit SystemMidiDevice(FluidSynthesizer& synthesizer,
+                              const std::vector<RtMidi::Api>& kinds = systemPortKinds(),
+                              ConnectToPorts connect = connectToSystemPorts)
+        : synthesizer_(synthesizer), ports_(kinds, std::move(connect)) {}
 
     int midiOutGetNumDevs() override;
     std::optional<QString> midiOutGetDevCapsA(int id) const override;

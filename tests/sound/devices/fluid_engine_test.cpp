@@ -118,7 +118,7 @@ TEST_F(Engine, OpensTheFirstOutputThatIsThere) {
     synth = filing.synthesizer();
     EXPECT_EQ(integer("audio.period-size"), 128);
     EXPECT_EQ(integer("audio.periods"), 3);
-    filing.play({0x90, 60, 100});
+    filing.play({0x93, 60, 100});
     filing.closeOutput();
     EXPECT_EQ(filing.output(), "");
     EXPECT_FALSE(fs::is_empty(fs::current_path()));

@@ -1,10 +1,15 @@
 // The system's MIDI ports against services that a test makes: ones that answer, fail and hang. The real port
 // has a test of its own.
 #include "sound/devices/midi_ports.h"
+#include "sound/devices/quiet_libraries.h"
+
+#include <QtGlobal>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <algorithm>
+#include <condition_variable>
+#include <mutex>
 #include <thread>
 
 namespace tabrova {
@@ -273,6 +278,49 @@ TEST(MidiPorts, ThatTakeWholeEventsGetNoByteBehindAProgramChange) {
         EXPECT_EQ(bytesForPort(kind, {0xB0, 0, 0x80}), 3u);
         EXPECT_EQ(bytesForPort(kind, {0x90, 60, 0}), 3u);
     }
+}
+
+class PortsOfNoServer : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        const auto kinds = systemPortKinds();
+        if (std::find(kinds.begin(), kinds.end(), RtMidi::UNIX_JACK) == kinds.end())
+            GTEST_SKIP() << "the ports' library has no JACK";
+        silenceSoundLibraries();
+        qputenv("JACK_DEFAULT_SERVER", "nowhere");
+        connection = connectToSystemPorts(RtMidi::UNIX_JACK);
+        ASSERT_NE(connection, nullptr);
+    }
+    void TearDown() override { qunsetenv("JACK_DEFAULT_SERVER"); }
+    std::unique_ptr<PortConnection> connection;
+};
+
+TEST_F(PortsOfNoServer, AreNoneWhichIsNoTrouble) {
+    EXPECT_EQ(connection->count(), 0u);
+    EXPECT_EQ(connection->trouble(), "") << "a warning only";
+}
+
+TEST_F(PortsOfNoServer, TellTheirTroubleWhenTheyOpen) {
+    EXPECT_FALSE(connection->open(0));
+    EXPECT_NE(connection->trouble(), "");
+}
+
+// The server passes the last messages on at its next period, if the port is still there.
+TEST_F(PortsOfNoServer, WaitBeforeTheyGoForWhatWasSentLast) {
+    connection->send({0x90, 60, 1});
+    const auto start = Clock::now();
+    connection.reset();
+    EXPECT_GE(Clock::now() - start, 90ms);
+    auto silent = connectToSystemPorts(RtMidi::UNIX_JACK);
+    const auto again = Clock::now();
+    silent.reset();
+    EXPECT_LT(Clock::now() - again, 90ms) << "nothing was sent";
+}
+
+TEST(MidiPorts, AreNoDummies) {
+    for (const RtMidi::Api kind : systemPortKinds())
+        EXPECT_NE(kind, RtMidi::RTMIDI_DUMMY);
+    EXPECT_FALSE(systemPortKinds().empty());
 }
 
 TEST(MidiPorts, OfThisMachineThatAreNotThereDoNotOpen) {

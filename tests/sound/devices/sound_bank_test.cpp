@@ -64,6 +64,14 @@ TEST_F(SoundBanks, AreKnownByTheirFirstBytes) {
     EXPECT_TRUE(isSoundBank(bank("good.sf2")));
     EXPECT_FALSE(isSoundBank(bank("wave.sf2", "RIFF....WAVE")));
     EXPECT_FALSE(isSoundBank(bank("text.sf2", "not a bank..")));
+    const std::string head = "RIFF....sfbk";
+    for (const std::size_t at : {0u, 3u, 8u, 11u}) {
+        std::string wrong = head;
+        wrong[at] = 'X';
+        EXPECT_FALSE(isSoundBank(bank("wrong.sf2", wrong))) << wrong;
+    }
+    std::ofstream(folder / "head.sf2") << head;
+    EXPECT_TRUE(isSoundBank(folder / "head.sf2"));
     std::ofstream(folder / "short.sf2") << "RIFF";
     EXPECT_FALSE(isSoundBank(folder / "short.sf2"));
     EXPECT_FALSE(isSoundBank(folder / "own"));
@@ -71,6 +79,20 @@ TEST_F(SoundBanks, AreKnownByTheirFirstBytes) {
     EXPECT_FALSE(isSoundBank({}));
     places.setting = folder / "text.sf2";
     EXPECT_TRUE(soundBanks(places).empty());
+}
+
+TEST_F(SoundBanks, StandInTheFoldersOfTheUserAndOfTheSystem) {
+    const QByteArray home = qgetenv("XDG_DATA_HOME");
+    const QByteArray system = qgetenv("XDG_DATA_DIRS");
+    qputenv("XDG_DATA_HOME", "/user");
+    qputenv("XDG_DATA_DIRS", "/local:/shared");
+    Files wanted;
+    for (const char* base : {"/user", "/local", "/shared"})
+        for (const char* sub : {"sounds/sf2", "sounds/sf3", "soundfonts"})
+            wanted.push_back(fs::path(base) / sub);
+    EXPECT_EQ(systemBankFolders(), wanted);
+    home.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", home);
+    system.isNull() ? qunsetenv("XDG_DATA_DIRS") : qputenv("XDG_DATA_DIRS", system);
 }
 
 } // namespace

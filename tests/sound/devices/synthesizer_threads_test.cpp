@@ -60,6 +60,10 @@ class HeldEngine : public SoundEngine {
         std::unique_lock lock(mutex_);
         EXPECT_TRUE(changed_.wait_for(lock, LongTime, [this] { return waiting_; }));
     }
+    void write(const std::string& line) {
+        const std::lock_guard lock(mutex_);
+        log_.push_back(line);
+    }
     Log takeLog() {
         const std::lock_guard lock(mutex_);
         return std::exchange(log_, {});
@@ -292,9 +296,35 @@ TEST_F(SynthesizerThreads, EndWhileAServerHangs) {
     EXPECT_FALSE(told) << "there is nobody to be told";
 }
 
+// Writes into the engine's log.
+class LoggedPort : public PortConnection {
+  public:
+    explicit LoggedPort(std::shared_ptr<HeldEngine> engine) : engine_(std::move(engine)) {}
+    ~LoggedPort() override {
+        if (open_) engine_->write("port closed");
+    }
+    unsigned count() override { return 1; }
+    std::string name(unsigned) override { return "ear"; }
+    bool open(unsigned) override {
+        engine_->write("port opened");
+        return open_ = true;
+    }
+    bool send(const ShortMessage& message) override {
+        engine_->write("port " + std::to_string(message[0]));
+        return message[0] != 0xFF;
+    }
+    std::string trouble() const override { return "the cable is cut"; }
+
+  private:
+    std::shared_ptr<HeldEngine> engine_;
+    bool open_ = false;
+};
+
 class Devices : public SynthesizerThreads {
   protected:
-    SystemMidiDevice device{synthesizer};
+    SystemMidiDevice device{synthesizer, {RtMidi::UNIX_JACK}, [engine = engine](RtMidi::Api) {
+                                return std::make_unique<LoggedPort>(engine);
+                            }};
     std::uint32_t handle = 0;
 };
 
@@ -308,11 +338,43 @@ TEST_F(Devices, CloseTheSynthesizerWithItsHandle) {
     EXPECT_EQ(engine->takeLog(), (Log{"close", "load mine.sf2", "open", "144 60 100", "close"}));
 }
 
-TEST_F(Devices, LeaveTheSynthesizerAloneWhenAPortIsClosed) {
-    open();
-    EXPECT_EQ(device.midiOutClose(2), 0);
+TEST_F(Devices, KeepTheirPortsWhenTheSynthesizerIsClosedAndTheOtherWayRound) {
+    ASSERT_EQ(device.midiOutGetNumDevs(), 1);
+    EXPECT_EQ(device.midiOutGetDevCapsA(0), "ear");
+    std::uint32_t port = 0;
+    ASSERT_EQ(device.midiOutOpen(port, 0), 0);
+    ASSERT_EQ(device.midiOutOpen(handle, MidiMapperId), 0);
+    EXPECT_NE(port, handle);
+    EXPECT_NE(port, 0u);
+    synthesizer.waitUntilLoaded();
+    engine->takeLog();
+    EXPECT_EQ(device.midiOutClose(handle), 0);
+    EXPECT_FALSE(synthesizer.state().running);
+    EXPECT_EQ(device.midiOutShortMsg(port, {0x90, 60, 100}), 0);
+    ASSERT_TRUE(device.settles(LongTime));
+    EXPECT_EQ(engine->takeLog(), (Log{"close", "port 144"})) << "the port stays open";
+    ASSERT_EQ(device.midiOutOpen(handle, MidiMapperId), 0);
+    synthesizer.waitUntilLoaded();
+    engine->takeLog();
+    EXPECT_EQ(device.midiOutClose(port), 0);
     EXPECT_TRUE(synthesizer.state().running);
-    EXPECT_EQ(engine->takeLog(), Log{});
+    EXPECT_EQ(engine->takeLog(), Log{"port closed"});
+}
+
+TEST_F(Devices, TellTheErrorsOfNoDeviceAndOfAPort) {
+    constexpr int NoDevice = 5;
+    constexpr int PortFailed = 2;
+    EXPECT_EQ(device.midiOutShortMsg(0, {0x90, 60, 100}), NoDevice);
+    EXPECT_EQ(device.midiOutGetErrorTextA(NoDevice), "No MIDI output is open.");
+    device.midiOutGetNumDevs();
+    std::uint32_t port = 0;
+    EXPECT_EQ(device.midiOutOpen(port, 1), PortFailed);
+    EXPECT_EQ(port, 0u);
+    ASSERT_EQ(device.midiOutOpen(port, 0), 0);
+    device.midiOutShortMsg(port, {0xFF, 0, 0});
+    ASSERT_TRUE(device.settles(LongTime));
+    EXPECT_EQ(device.midiOutShortMsg(port, {0x90, 60, 100}), PortFailed);
+    EXPECT_EQ(device.midiOutGetErrorTextA(PortFailed), "the cable is cut");
 }
 
 TEST_F(Devices, SettleWhenTheSynthesizerDoes) {
