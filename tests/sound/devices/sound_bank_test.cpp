@@ -1,6 +1,8 @@
 // Which sound bank is found where.
 #include "sound/devices/sound_bank.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
