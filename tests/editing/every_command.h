@@ -58,7 +58,8 @@ class EveryCommand {
   public:
     EveryCommand(Document& itsDocument, unsigned seed) : document(itsDocument), random_(seed) {
         document.RealtimeMode = 0;
-        view.picDocument.resize(984, 472);
+        view.picDocument.resize(200, 120);
+        view.picStandardNotation.resize(20, 168);
         sound.OpenMidiDevice(MidiMapperId);
     }
 
@@ -178,7 +179,7 @@ class EveryCommand {
     void window() {
         editor.modes = {oneIn(2), oneIn(2)};
         editor.VScroll1_Change(place(20));
-        if (oneIn(2)) view.picDocument.resize(choose(1, 1500), choose(1, 900));
+        if (oneIn(2)) view.picDocument.resize(choose(1, 300), choose(1, 250));
         editor.pageResized();
         NoFile nowhere;
         std::ostream file(&nowhere);
