@@ -34,6 +34,16 @@ TEST_F(TextLines, StayAsTheyStandInAFileOfValidUtf8) {
     EXPECT_EQ(linesOf("Größe\r\nФайл\r\n🎸"), (Lines{"Größe", "Файл", "🎸"}));
 }
 
+// The first and the last character of every length, and those beside what is not allowed.
+TEST_F(TextLines, OfValidUtf8MayHoldEveryCharacter) {
+    for (const std::string bytes :
+         {"\x7F", "\xC2\x80", "\xC3\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+          "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_EQ(linesOf(bytes + "\nnext"), (Lines{bytes, "next"}));
+    for (const std::string bytes : {"\xC1\xBF", "\xC3\x7F", "\xC3\xC0", "\xE0\x9F\xBF", "\xF0\x8F\xBF\xBF"})
+        EXPECT_NE(linesOf(bytes).front(), bytes);
+}
+
 TEST_F(TextLines, ComeFromTheCodePageInAnyOtherFile) {
     EXPECT_EQ(linesOf("Gr\xF6\xDF"
                       "e\r\n\x80 100"),
