@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace tabrova {
 
 namespace {
@@ -21,6 +23,9 @@ constexpr int FretCount = 30;
 void PrintAt(QPainter& surface, int x, int y, const QString& text) {
     surface.drawText(x, y + surface.fontMetrics().ascent(), text);
 }
+
+// The toolkit has no room for a widget whose right edge is past the numbers' range.
+int placeForWidget(int place) { return std::clamp(place, -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); }
 
 } // namespace
 
@@ -51,7 +56,7 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedP
 
 void NoteSelector::openAt(const Rect& place) {
     moveHighlight(ParkedPaletteHighlight);
-    move(place.left, place.top);
+    move(placeForWidget(place.left), placeForWidget(place.top));
     show();
     raise();
     update();
@@ -64,7 +69,8 @@ void NoteSelector::mouseMoveEvent(QMouseEvent* event) {
 
 void NoteSelector::moveHighlight(const Rect& place) {
     highlight_ = place;
-    shpNoteSelector_->setGeometry(place.left, place.top, place.width, place.height);
+    shpNoteSelector_->setGeometry(placeForWidget(place.left), placeForWidget(place.top), place.width,
+                                  place.height);
 }
 
 // The palette keeps its mouse events: the page below it must not see them.
