@@ -77,6 +77,14 @@ class LanguageWindows : public testing::MainWindowTest {
     std::unique_ptr<frmAltSplash> splash;
 };
 
+TEST_F(LanguageWindows, EveryAnswerOfABoxHasItsOwnWord) {
+    load();
+    EXPECT_EQ(boxes.buttonTexts[BoxAnswer::Ok], "OK");
+    EXPECT_EQ(boxes.buttonTexts[BoxAnswer::Cancel], "Cancel");
+    EXPECT_EQ(boxes.buttonTexts[BoxAnswer::Yes], "&Yes");
+    EXPECT_EQ(boxes.buttonTexts[BoxAnswer::No], "&No");
+}
+
 TEST_F(LanguageWindows, EveryLineComesToItsControl) {
     std::ofstream file(folder() / "lang.trl", std::ios::trunc);
     for (int number = 1; number <= lastLanguageLine(); ++number)
