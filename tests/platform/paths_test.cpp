@@ -50,6 +50,17 @@ TEST(Paths, BytesThatAreNoTextComeThrough) {
               QChar(0xDC80) + QString("a"));
 }
 
+// Beside bytes that are no text the characters of a name stay what they are.
+TEST(Paths, CharactersOfEveryLengthStandBesideBytes) {
+    for (const char* character : {"a", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xEF\xBF\xBF",
+                                  "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+        const std::string name = std::string(character) + "\xff" + character;
+        const QString text = QString::fromUtf8(character);
+        EXPECT_EQ(textOf(fs::path(name)), text + QChar(0xDCFF) + text);
+        EXPECT_EQ(pathOf(textOf(fs::path(name))).native(), name);
+    }
+}
+
 TEST(Paths, AnyBytesAtRandomComeThrough) {
     std::mt19937 random(7);
     const std::string bytes = "ab/\x80\x8f\x9d\xa9\xbf\xc3\xe2\xed\xf0\xff\xef\xbb";

@@ -112,5 +112,17 @@ TEST(TimerService, EndsWithTimersRunning) {
     EXPECT_EQ(count, ended);
 }
 
+TEST(TimerServicePeriods, ReachFromAMillisecondToAThousandSeconds) {
+    SystemTimerService service;
+    EXPECT_EQ(service.timeGetDevCaps().wPeriodMin, 1);
+    EXPECT_EQ(service.timeGetDevCaps().wPeriodMax, 1000000);
+    const TimeCallback nothing = [](void*) {};
+    for (const std::int32_t delay : {0, -1, 1000001})
+        EXPECT_EQ(service.timeSetEvent(delay, 0, nothing, nullptr, TIME_ONESHOT), 0u) << delay;
+    const std::uint32_t longest = service.timeSetEvent(1000000, 0, nothing, nullptr, TIME_ONESHOT);
+    EXPECT_NE(longest, 0u);
+    service.timeKillEvent(longest);
+}
+
 } // namespace
 } // namespace tabrova
