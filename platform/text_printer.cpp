@@ -8,14 +8,17 @@
 
 namespace tabrova {
 
+QPageLayout layoutFor(const PrintJob& job, QPageLayout printersOwn) {
+    printersOwn.setUnits(QPageLayout::Point);
+    printersOwn.setMargins(printersOwn.margins() + QMarginsF(job.left, job.top, 0, 0));
+    return printersOwn;
+}
+
 void DesktopTextPrinter::print(const PrintJob& job) {
     QPrinter printer;
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() != QDialog::Accepted) return;
-    QPageLayout layout = printer.pageLayout();
-    layout.setUnits(QPageLayout::Point);
-    layout.setMargins(layout.margins() + QMarginsF(job.left, job.top, 0, 0));
-    printer.setPageLayout(layout);
+    printer.setPageLayout(layoutFor(job, printer.pageLayout()));
     QTextDocument document;
     document.setDefaultFont(QFont(job.fontFamily, job.pointSize));
     document.setPlainText(job.text);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QPageLayout>
 #include <QString>
 
 #include <utility>
@@ -15,6 +16,9 @@ struct PrintJob {
     double left = 0.0; // offset of the text from the printable area, in points
     double top = 0.0;
 };
+
+// The printer's page with the job's offset inside its left and top margins; the other two stay.
+QPageLayout layoutFor(const PrintJob& job, QPageLayout printersOwn);
 
 class TextPrinter {
   public:

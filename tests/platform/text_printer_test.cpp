@@ -119,5 +119,16 @@ TEST(RecordedPrinter, KeepsJobsUntilTheyAreTaken) {
     EXPECT_TRUE(printer.take().isEmpty());
 }
 
+TEST(PageOfAPrintJob, HasItsOffsetInsideTheLeftAndTopMarginsAlone) {
+    const QPageLayout own(QPageSize(QPageSize::A4), QPageLayout::Portrait, {1, 2, 3, 4}, QPageLayout::Inch);
+    PrintJob job;
+    job.left = 10;
+    job.top = 20;
+    const QPageLayout page = layoutFor(job, own);
+    EXPECT_EQ(page.units(), QPageLayout::Point);
+    EXPECT_EQ(page.margins(), QMarginsF(72 + 10, 144 + 20, 216, 288));
+    EXPECT_EQ(page.pageSize(), own.pageSize());
+}
+
 } // namespace
 } // namespace tabrova
