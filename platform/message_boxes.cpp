@@ -1,6 +1,8 @@
 #include "platform/message_boxes.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -53,10 +55,26 @@ BoxAnswer answerOf(int button) {
     }
 }
 
+// The toolkit answers the window's cross and Escape by a button of its own choice; here they are no button.
+class BoxWindow : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->accept();
+        reject();
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape) return reject();
+        QMessageBox::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
 BoxAnswer DesktopMessageBoxes::ask(const MessageBox& box) {
-    QMessageBox window(QApplication::activeWindow());
+    BoxWindow window(QApplication::activeWindow());
     window.setWindowTitle(box.title);
     window.setTextFormat(Qt::PlainText);
     window.setText(box.text);

@@ -47,6 +47,16 @@ TEST_F(RealBox, AnswersCancelWhenItIsClosedWithoutAButton) {
             BoxAnswer::Cancel);
 }
 
+// Also where the toolkit would take a button of its own choice for it: No, of Yes and No.
+TEST_F(RealBox, AnswersCancelForTheWindowsCrossAndForEscape) {
+    for (const auto& buttons : {QList{BoxAnswer::Ok}, QList{BoxAnswer::Yes, BoxAnswer::No}, allButtons}) {
+        const MessageBox box = {"title", "text", BoxIcon::Question, buttons};
+        EXPECT_EQ(answerTo(box, [](QMessageBox& window) { window.close(); }), BoxAnswer::Cancel);
+        EXPECT_EQ(answerTo(box, [](QMessageBox& window) { QTest::keyClick(&window, Qt::Key_Escape); }),
+                  BoxAnswer::Cancel);
+    }
+}
+
 TEST_F(RealBox, TakesEscapeForCancel) {
     EXPECT_EQ(answerTo({"title", "text", BoxIcon::None, {BoxAnswer::Yes, BoxAnswer::No, BoxAnswer::Cancel}},
                        [](QMessageBox& window) { QTest::keyClick(&window, Qt::Key_Escape); }),
