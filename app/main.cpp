@@ -1,10 +1,10 @@
 // The program: `tabrova [DOCUMENT]`.
 #include "app/command_line.h"
 #include "app/program.h"
-#include "core/shell/frmMain.h"
 #include "platform/end_signals.h"
 #include "platform/paths.h"
 #include "platform/session_end.h"
+#include "shell/frmMain.h"
 #include "sound/devices/system_midi_device.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "app/program.h"
 
-#include "core/program_folder.h"
+#include "core/files/program_folder.h"
 #include "platform/paths.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // Open, save and growth of the largest document, each against `wc -l` on the same file in the same run.
 #include "bench/large_document.h"
-#include "core/document_file.h"
-#include "core/document_operations.h"
+#include "core/document/document_file.h"
+#include "core/document/document_operations.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,7 +1,7 @@
 // From a key press on the page to the first sample of its note at the recorder: the real window, the built-in
 // synthesizer, the server that scripts/with_sound_server starts. The recorder's own delay is part of the
 // figure. The yardstick is one period of the audio output, 512 frames at 48 kHz.
-#include "core/shell/frmMain.h"
+#include "shell/frmMain.h"
 #include "sound/devices/system_midi_device.h"
 
 #include <benchmark/benchmark.h>

@@ -1,6 +1,6 @@
 #include "bench/large_document.h"
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 
 namespace tabrova {
 

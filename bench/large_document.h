@@ -1,7 +1,7 @@
 // The documents that the benchmarks measure with.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 namespace tabrova {
 

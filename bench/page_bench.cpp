@@ -1,8 +1,8 @@
 // The page's redraw against a memory copy of its pixels, one typed note, and the way from a key to the shown
 // image.
 #include "bench/large_document.h"
-#include "core/document_operations.h"
-#include "core/shell/frmMain.h"
+#include "core/document/document_operations.h"
+#include "shell/frmMain.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,7 +2,7 @@
 // messages it sends: into a device that only counts, and into the built-in synthesizer on a real audio
 // output.
 #include "bench/large_document.h"
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "sound/devices/system_midi_device.h"
 #include "sound/playback.h"
 

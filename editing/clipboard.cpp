@@ -1,6 +1,6 @@
 #include "editing/clipboard.h"
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 
 #include <algorithm>
 

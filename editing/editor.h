@@ -2,7 +2,7 @@
 // changes cells. The given names are the commands' own.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "core/language/language_words.h"
 #include "editing/editor_host.h"
 #include "editing/structure_edits.h"

@@ -1,5 +1,5 @@
 // The cursor's moves, by key and by mouse.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/panel_placement.h"
 

@@ -1,5 +1,5 @@
 // Keys, techniques and bar marks: what a key does to the cell under the cursor.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/fret_palette.h"
 #include "editing/key_codes.h"

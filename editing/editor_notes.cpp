@@ -1,7 +1,7 @@
 // Note entry: one typed note is stored, its one cell drawn and its column sounded, with no walk over the
 // page.
-#include "core/bar_marks.h"
-#include "core/document_operations.h"
+#include "core/document/bar_marks.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
 #include "sound/column_preview.h"

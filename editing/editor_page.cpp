@@ -1,5 +1,5 @@
 // The whole-page redraw, scrolling, and the commands that replace or lengthen the document.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
 #include "editing/statistics_line.h"

@@ -1,5 +1,5 @@
 // The editor's commands that change the shape of the grid.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/clipboard.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"

@@ -1,5 +1,5 @@
 // The virtual fretboard: the notes of the cursor's column are shown on it, and a click on it changes one.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 
 namespace tabrova {

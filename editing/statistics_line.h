@@ -1,7 +1,7 @@
 // The statistics line: where the cursor stands, in words, or in debug mode by the fields.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "core/language/language_words.h"
 
 #include <string>

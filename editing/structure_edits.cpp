@@ -1,6 +1,6 @@
 #include "editing/structure_edits.h"
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 // write and are passed over. None of them draws.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 namespace tabrova {
 

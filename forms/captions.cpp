@@ -1,7 +1,7 @@
 #include "forms/captions.h"
 
+#include "core/files/text_lines.h"
 #include "core/language/language_lines.h"
-#include "core/language/text_lines.h"
 #include "forms/control_names.h"
 #include "forms/text_edges.h"
 

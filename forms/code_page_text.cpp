@@ -1,6 +1,6 @@
 #include "forms/code_page_text.h"
 
-#include "core/code_page.h"
+#include "core/text/code_page.h"
 #include "forms/plain_tool_tips.h"
 
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 // all.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "sound/midi_output.h"
 
 namespace tabrova {

@@ -2,7 +2,7 @@
 // them. What is not there or is no number gives std::nullopt: the one message that needs it is then not sent.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 #include <array>
 

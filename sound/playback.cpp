@@ -1,6 +1,6 @@
 #include "sound/playback.h"
 
-#include "core/bar_marks.h"
+#include "core/document/bar_marks.h"
 #include "sound/pitch.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // track. The timer only calls it; it keeps nothing of its own between two ticks but the PlaybackState.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "sound/midi_output.h"
 
 namespace tabrova {

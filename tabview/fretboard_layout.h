@@ -2,7 +2,7 @@
 // parts stand for a height of the surface, and which cell a click on it means.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/surface.h"
 
 #include <array>

@@ -2,7 +2,7 @@
 // lists of copies and lines out. A percussion track has neither.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/sprites.h"
 
 #include <vector>

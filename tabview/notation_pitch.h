@@ -1,7 +1,7 @@
 // Where a pitch stands on the two staves of the notation strip, and the pitch that a cell is written as.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 #include <optional>
 

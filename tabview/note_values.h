@@ -1,7 +1,7 @@
 // Note values. A document stores none: a note lasts over the empty columns behind it, by thresholds.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/sprites.h"
 
 namespace tabrova {

@@ -1,7 +1,7 @@
 // The tab page's geometry in logical pixels, and the state of the objects that float above the page.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/surface.h"
 
 namespace tabrova {

@@ -1,7 +1,7 @@
 // What a redraw of the page copies, in order: a const document in, a list of copies out.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/sprites.h"
 
 #include <vector>

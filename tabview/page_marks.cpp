@@ -1,6 +1,6 @@
 #include "tabview/page_marks.h"
 
-#include "core/bar_marks.h"
+#include "core/document/bar_marks.h"
 
 #include "tabview/page_geometry.h"
 

@@ -1,7 +1,7 @@
 // Bar marks and technique marks on the page: each has a fixed place beside its cell.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/sprites.h"
 
 #include <vector>

@@ -1,8 +1,8 @@
 #include "app/drive/control_values.h"
 
-#include "core/shell/status_bar.h"
 #include "forms/text_edges.h"
 #include "platform/window_timer.h"
+#include "shell/status_bar.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>

@@ -1,7 +1,7 @@
 #include "app/drive/document_json.h"
 
-#include "core/code_page.h"
-#include "core/shell/frmMain.h"
+#include "core/text/code_page.h"
+#include "shell/frmMain.h"
 
 #include <QJsonArray>
 

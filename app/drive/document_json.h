@@ -1,7 +1,7 @@
 // The document and the page's objects as JSON.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 #include <QJsonObject>
 

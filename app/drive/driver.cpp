@@ -5,7 +5,7 @@
 #include "app/drive/document_json.h"
 #include "app/drive/input_events.h"
 #include "app/drive/word_splitter.h"
-#include "core/shell/frmMain.h"
+#include "shell/frmMain.h"
 
 #include <QApplication>
 #include <QEventLoop>

@@ -3,9 +3,9 @@
 #include "app/drive/driver.h"
 #include "app/drive/line_queue.h"
 #include "app/program.h"
-#include "core/program_folder.h"
-#include "core/shell/frmMain.h"
+#include "core/files/program_folder.h"
 #include "platform/paths.h"
+#include "shell/frmMain.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -1,5 +1,5 @@
 // compose_example SOURCE.tab DOCUMENT.tr3
-#include "core/document_file.h"
+#include "core/document/document_file.h"
 #include "examples/compose/tab_source.h"
 
 #include <fstream>

@@ -1,7 +1,7 @@
 #include "examples/compose/tab_source.h"
 
-#include "core/code_page.h"
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
+#include "core/text/code_page.h"
 
 #include <iostream>
 #include <sstream>

@@ -2,7 +2,7 @@
 // track, each of 32 words. "-" is an empty cell, "7" a fret, "7/h" a fret with its technique.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 
 #include <istream>
 

@@ -1,6 +1,6 @@
 #include "organisers/options/frmOptions.h"
 
-#include "core/language/text_lines.h"
+#include "core/files/text_lines.h"
 #include "forms/captions.h"
 #include "forms/plain_tool_tips.h"
 #include "platform/paths.h"

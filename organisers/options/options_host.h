@@ -1,7 +1,7 @@
 // What the options change in the main window. Every change takes effect at once.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "sound/midi_output.h"
 
 #include <QRgb>

@@ -2,7 +2,7 @@
 // panels, tracks, playback, properties, saving. Nothing is compared; the program must bear them all. Longer
 // walks by TABROVA_WALK_COMMANDS and TABROVA_WALK_SEED.
 #include "tests/app/driver_session.h"
-#include "tests/core/damaged_documents.h"
+#include "tests/core/document/damaged_documents.h"
 
 #include <QFile>
 

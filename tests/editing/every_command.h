@@ -2,9 +2,9 @@
 // compared, all must be borne.
 #pragma once
 
-#include "core/document_file.h"
-#include "core/document_operations.h"
-#include "core/track_table.h"
+#include "core/document/document_file.h"
+#include "core/document/document_operations.h"
+#include "core/document/track_table.h"
 #include "editing/clipboard.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"

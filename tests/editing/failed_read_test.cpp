@@ -1,5 +1,5 @@
 // Whatever a reader leaves behind when it fails is a document that every command bears.
-#include "tests/core/damaged_documents.h"
+#include "tests/core/document/damaged_documents.h"
 #include "tests/editing/every_command.h"
 
 #include <gtest/gtest.h>

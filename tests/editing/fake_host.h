@@ -1,7 +1,7 @@
 // A window that only remembers what the editor asked of it, in order, and an editor in it.
 #pragma once
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "platform/midi_device.h"
 #include "tests/tabview/plain_blitter.h"

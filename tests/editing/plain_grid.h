@@ -3,7 +3,7 @@
 // cell outside the arrays is passed over, and the next one runs.
 #pragma once
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 
 #include <gtest/gtest.h>
 

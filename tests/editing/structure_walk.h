@@ -3,7 +3,7 @@
 #pragma once
 
 #include "editing/clipboard.h"
-#include "tests/core/document_helpers.h"
+#include "tests/core/document/document_helpers.h"
 #include "tests/editing/plain_grid.h"
 
 #include <random>

@@ -1,5 +1,5 @@
 // The fret palette under a real pointer: the events reach the window, which finds the control below them.
-#include "core/shell/note_selector.h"
+#include "shell/note_selector.h"
 #include "tests/shell/main_window.h"
 
 #include <QTest>

@@ -1,5 +1,5 @@
 // Keys go by what they type, and by their place where that is no Latin text.
-#include "core/shell/key_mapping.h"
+#include "shell/key_mapping.h"
 
 #include <QKeyEvent>
 

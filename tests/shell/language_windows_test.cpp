@@ -1,9 +1,9 @@
 // The language in the real windows: every caption from a file whose every line differs, and every installed
 // language without a clipped text.
 #include "core/language/language_lines.h"
-#include "core/shell/frmAbout.h"
-#include "core/shell/frmAltSplash.h"
 #include "forms/control_names.h"
+#include "shell/frmAbout.h"
+#include "shell/frmAltSplash.h"
 #include "tests/shell/main_window.h"
 
 #include <QAbstractButton>

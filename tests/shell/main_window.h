@@ -1,9 +1,9 @@
 // A real main window on recording services, in a program folder of its own.
 #pragma once
 
-#include "core/language/text_lines.h"
-#include "core/shell/frmMain.h"
+#include "core/files/text_lines.h"
 #include "platform/recording_services.h"
+#include "shell/frmMain.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // The main window's commands, each by its menu item, its key, its button or its panel.
-#include "core/shell/key_mapping.h"
-#include "core/shell/toolbar_commands.h"
+#include "shell/key_mapping.h"
+#include "shell/toolbar_commands.h"
 #include "tests/shell/main_window.h"
 
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 // How much of the notes is shown.
-#include "core/shell/properties/notes_text.h"
+#include "shell/properties/notes_text.h"
 
 #include <gtest/gtest.h>
 

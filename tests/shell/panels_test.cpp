@@ -1,10 +1,10 @@
 // The small panels by themselves: where their parts stand, what their keys do, and what they tell.
-#include "core/document_operations.h"
-#include "core/shell/bend_panel.h"
-#include "core/shell/repeat_panel.h"
-#include "core/shell/status_bar.h"
-#include "core/shell/toolbar.h"
-#include "core/shell/track_chooser.h"
+#include "core/document/document_operations.h"
+#include "shell/bend_panel.h"
+#include "shell/repeat_panel.h"
+#include "shell/status_bar.h"
+#include "shell/toolbar.h"
+#include "shell/track_chooser.h"
 #include "tests/forms/described_layout.h"
 #include "tests/tabview/plain_blitter.h"
 

@@ -1,7 +1,7 @@
 // The windows for the properties of document and tracks, with real clicks and keys.
-#include "core/document_operations.h"
-#include "core/shell/properties/track_texts.h"
+#include "core/document/document_operations.h"
 #include "forms/text_edges.h"
+#include "shell/properties/track_texts.h"
 #include "tests/shell/main_window.h"
 
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 // The toolbar's icons: there for every word, told apart, inside their square, sharp at any size, and in the
 // theme's colours.
-#include "core/shell/icons/toolbar_icons.h"
+#include "shell/icons/toolbar_icons.h"
 
 #include <QApplication>
 #include <QPainter>

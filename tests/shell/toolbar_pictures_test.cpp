@@ -1,7 +1,7 @@
 // The toolbar's icons against a picture of them all that was looked at: one row of 32, each 48 pixels high. A
 // test that fails writes the new picture beside the program; if it is as it should be, it takes the place of
 // fixtures/toolbar_icons.png.
-#include "core/shell/icons/toolbar_icons.h"
+#include "shell/icons/toolbar_icons.h"
 #include "tests/shell/likeness.h"
 #include "tests/tabview/plain_blitter.h"
 

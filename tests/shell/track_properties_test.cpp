@@ -1,5 +1,5 @@
 // The tuning manager's button among a track's properties.
-#include "core/shell/properties/frmTrackProperties.h"
+#include "shell/properties/frmTrackProperties.h"
 #include "tests/shell/main_window.h"
 
 #include <QPushButton>

@@ -1,5 +1,5 @@
 // The welcome window: its picture, its four ways, and that it tells one choice and no second.
-#include "core/shell/frmAltSplash.h"
+#include "shell/frmAltSplash.h"
 #include "tests/shell/likeness.h"
 #include "tests/tabview/plain_blitter.h"
 

@@ -1,5 +1,5 @@
 // The window-size rules, one by one.
-#include "core/shell/window_layout.h"
+#include "shell/window_layout.h"
 
 #include <gtest/gtest.h>
 

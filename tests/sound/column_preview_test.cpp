@@ -1,5 +1,5 @@
 // What a typed column sounds like in the three modes.
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "sound/column_preview.h"
 
 #include <gtest/gtest.h>

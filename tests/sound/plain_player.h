@@ -2,7 +2,7 @@
 // for a column that takes no time. A passage that follows itself in no time for ever is told by TooDeep.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "platform/midi_device.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // What the tests of the player share: a document of a few tracks, its ticks, and the messages of each.
 #pragma once
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "sound/playback.h"
 
 #include <gtest/gtest.h>

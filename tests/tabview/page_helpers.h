@@ -1,7 +1,7 @@
 // Documents for the page's tests.
 #pragma once
 
-#include "core/document_operations.h"
+#include "core/document/document_operations.h"
 #include "tabview/page_geometry.h"
 #include "tabview/page_layout.h"
 

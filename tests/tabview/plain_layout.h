@@ -2,7 +2,7 @@
 // the other.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/sprites.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // A slow plain restatement of the notation pass: its steps one after the other, cell by cell.
 #pragma once
 
-#include "core/document.h"
+#include "core/document/document.h"
 #include "tabview/notation_layout.h"
 
 #include <string>

@@ -1,5 +1,5 @@
 // Which cell of the sheet belongs to which text, and that the sheet has something there.
-#include "core/bar_marks.h"
+#include "core/document/bar_marks.h"
 #include "tabview/sprites.h"
 
 #include "tabview/tab_view.h"

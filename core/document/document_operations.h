@@ -1,0 +1,33 @@
+// What the document does to itself: a new document, other sizes, one more staff, the cursor's column.
+// The windows' share of these commands (redraws, status texts) stands with the editor.
+#pragma once
+
+#include "core/document/document.h"
+
+namespace tabrova {
+
+// The most cells that one grid may have; beyond it no memory is asked for.
+constexpr std::int64_t LargestGrid = 64LL * 1024 * 1024;
+constexpr std::int16_t MostStaves = 32767;
+
+// False if the sizes are negative or the grids would not fit: nothing is changed then.
+bool ResizeGrids(Document& document, std::int32_t columns, std::int32_t rows);
+
+// One empty staff more at the end. False if the document cannot grow.
+bool growByOneStaff(Document& document);
+
+// The current track's six entries of TuningTable: s1 is the lowest string, s6 the highest. Entries that the
+// table does not have are passed over.
+void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4,
+                  std::int16_t s5, std::int16_t s6);
+
+// CurrentColumn follows the cursor's staff and its column in the staff.
+void GetCurrentXPosition(Document& document);
+
+// The cells of the current staff's 32 columns become "": which arrays and rows, the name tells.
+void ClearStaffallall(Document& document);
+
+// Fields, arrays and lists of a new document. The clipboard survives, as far as its rows fit.
+void resetToNewDocument(Document& document);
+
+} // namespace tabrova

@@ -1,0 +1,20 @@
+#include "shell/fretboard_widget.h"
+
+#include <QMouseEvent>
+
+namespace tabrova {
+
+FretboardWidget::FretboardWidget(const Surface& surface, QWidget* parent)
+    : SurfaceWidget("picFretboard", surface, parent) {
+    setAccessibleName(tr("Virtual fretboard"));
+}
+
+void FretboardWidget::mousePressEvent(QMouseEvent* event) {
+    const QPoint place = pixelAt(*event);
+    handlers_.mouseDown(event->button(), place.x(), place.y());
+}
+
+// Its first press has come as a press of its own; the second one is no press any more.
+void FretboardWidget::mouseDoubleClickEvent(QMouseEvent*) { handlers_.doubleClick(); }
+
+} // namespace tabrova

@@ -1,0 +1,43 @@
+// `picNoteSelector`, the fret palette: three rows of ten cells that a right click on the page opens.
+#pragma once
+
+#include "shell/highlight_shape.h"
+#include "tabview/surface.h"
+
+#include <QFrame>
+
+#include <functional>
+
+class QLabel;
+class QPainter;
+
+namespace tabrova {
+
+class NoteSelector : public QFrame {
+  public:
+    explicit NoteSelector(QWidget* parent);
+
+    // A click: the place of the highlight.
+    std::function<void(const Rect& highlight)> chosen;
+    // The palette closes by its button.
+    std::function<void()> closed;
+
+    // Shows the palette there, its highlight parked outside the cells.
+    void openAt(const Rect& place);
+
+  protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void DrawNoteSelector(QPainter& surface) const;
+    void moveHighlight(const Rect& place);
+
+    Rect highlight_;
+    HighlightShape* shpNoteSelector_;
+};
+
+} // namespace tabrova

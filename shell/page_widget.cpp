@@ -1,0 +1,73 @@
+#include "shell/page_widget.h"
+
+#include "shell/key_mapping.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace tabrova {
+
+PageWidget::PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent)
+    : SurfaceWidget("picDocument", surface, parent), objects_(objects) {
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Tablature page"));
+    paintObjects = [this](QPainter& painter) { paintCursor(painter); };
+}
+
+void PageWidget::paintCursor(QPainter& painter) const {
+    const QColor color(objects_.color);
+    const int width = objects_.borderWidth;
+    if (objects_.vLine1Visible)
+        painter.fillRect(objects_.vLine1.x1, objects_.vLine1.y1, width,
+                         objects_.vLine1.y2 - objects_.vLine1.y1, color);
+    // A wider border grows outwards, so that the glyph in the cell stays whole.
+    const Rect& cell = objects_.nCursor;
+    const int grown = width - 1;
+    const Rect border = {cell.left - grown, cell.top - grown, cell.width + 2 * grown,
+                         cell.height + 2 * grown};
+    painter.fillRect(border.left, border.top, border.width, width, color);
+    painter.fillRect(border.left, border.bottom() - width, border.width, width, color);
+    painter.fillRect(border.left, border.top, width, border.height, color);
+    painter.fillRect(border.right() - width, border.top, width, border.height, color);
+}
+
+void PageWidget::keyPressEvent(QKeyEvent* event) {
+    if (isModifierAlone(*event) || isCombination(*event)) return event->ignore();
+    // A key that is held down from before the page had the keyboard belongs to what had it then.
+    if (event->isAutoRepeat() && event->key() != heldKey_) return;
+    heldKey_ = event->key();
+    if (event->key() == Qt::Key_PageUp) return handlers_.scrollPageUp();
+    if (event->key() == Qt::Key_PageDown) return handlers_.scrollPageDown();
+    if (event->key() == Qt::Key_Escape) return handlers_.escape();
+    const KeyPress press = keyPressOf(*event);
+    handlers_.key(press.keyCode, press.shift);
+}
+
+void PageWidget::focusOutEvent(QFocusEvent* event) {
+    heldKey_ = 0;
+    SurfaceWidget::focusOutEvent(event);
+}
+
+void PageWidget::mousePressEvent(QMouseEvent* event) {
+    setFocus(Qt::MouseFocusReason);
+    const QPoint place = pixelAt(*event);
+    handlers_.mouseDown(event->button(), place.x(), place.y());
+}
+
+// The second press of a double click is a press like the first.
+void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    handlers_.doubleClick();
+}
+
+// One notch of the wheel is one staff; fine wheels add up.
+void PageWidget::wheelEvent(QWheelEvent* event) {
+    constexpr int Notch = 120;
+    wheelRest_ += event->angleDelta().y();
+    const int staves = wheelRest_ / Notch;
+    wheelRest_ -= staves * Notch;
+    if (staves != 0) handlers_.scrollBy(-staves);
+    event->accept();
+}
+
+} // namespace tabrova

@@ -1,0 +1,41 @@
+// `picDocument`, the tab page: shows its surface with the cursor objects above it, and passes keys and mouse
+// on.
+#pragma once
+
+#include "shell/surface_widget.h"
+#include "tabview/page_geometry.h"
+
+namespace tabrova {
+
+class PageWidget : public SurfaceWidget {
+  public:
+    struct Handlers {
+        std::function<void(int keyCode, int shift)> key;
+        std::function<void(int qtButton, int x, int y)> mouseDown;
+        std::function<void()> doubleClick;
+        std::function<void(int staves)> scrollBy;
+        std::function<void()> scrollPageUp;
+        std::function<void()> scrollPageDown;
+        std::function<void()> escape;
+    };
+
+    PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent);
+    void setHandlers(Handlers handlers) { handlers_ = std::move(handlers); }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void paintCursor(QPainter& painter) const;
+
+    const PageObjects& objects_;
+    Handlers handlers_;
+    int wheelRest_ = 0;
+    int heldKey_ = 0; // the toolkit's number of the key that was pressed last
+};
+
+} // namespace tabrova

@@ -1,0 +1,54 @@
+// `frmFileProperties`: the document's title, author, speed, notes and reverberation. It takes them from the
+// document when it loads and writes them back when it unloads, however it is closed. While it is loaded
+// playback reads its `chkSpeedBoost`, not the document's field.
+#pragma once
+
+#include "shell/properties/properties_host.h"
+
+#include <QDialog>
+
+#include <filesystem>
+
+class QCheckBox;
+class QLineEdit;
+class QPushButton;
+class QSlider;
+class QSpinBox;
+
+namespace tabrova {
+
+class NotesBox;
+
+class frmFileProperties : public QDialog {
+  public:
+    frmFileProperties(PropertiesHost& host, const std::filesystem::path& programFolder, QWidget* parent);
+
+    void Form_Load();
+    void LoadLanguage();
+    // Texts that the user has not touched stay as they are, whatever the boxes can show.
+    void Form_Unload();
+    bool speedBoost() const;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void done(int result) override;
+
+  private:
+    void build();
+
+    PropertiesHost& host_;
+    std::filesystem::path programFolder_;
+    QLineEdit* txtTitle_;
+    QLineEdit* txtAuthor_;
+    QSlider* sldSpeed_;
+    QSpinBox* spnSpeed_;
+    QCheckBox* chkSpeedBoost_;
+    NotesBox* txtNotes_;
+    QCheckBox* chkReverb_;
+    QPushButton* Command1_;
+    // As shown at the load, and what stands behind the shown part of the notes.
+    QString title_, author_, notes_;
+    std::string notesRest_;
+};
+
+} // namespace tabrova
