@@ -56,7 +56,7 @@ bool run(int argc, char** argv, int& code) {
             std::_Exit(1);
         }};
     tabrova::frmMain window(services);
-    const tabrova::SessionEnd session([&window] { return window.commands().confirmLeaving(); });
+    const tabrova::SessionEnd session([&window] { return window.commands().documents.confirmLeaving(); });
     window.resizeClient(1000, 700);
     window.show();
     // Without the words that were the toolkit's.

@@ -85,7 +85,7 @@ function(tabrova_tools)
     foreach(tool IN LISTS tools)
         if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${tool})
             tabrova_room(${all}_${tool} FOLDER ${tool}
-                USES core platform tabview sound editing forms Qt6::Widgets)
+                USES core platform tabview sound editing forms workbench Qt6::Widgets)
             tabrova_qt_headers(${all}_${tool})
             target_link_libraries(${all} INTERFACE ${all}_${tool})
         endif()

@@ -18,8 +18,7 @@ void moveOneColumn(Document& document, int end, RowRange rows) {
 // single move: a staff may come before the first move, which then saves the last column, or when the first
 // note has reached the last column, but not later. Staves added here come into use with the next column.
 void makeRoom(Document& document, Rows rows) {
-    GetCurrentXPosition(document);
-    const int at = document.CurrentColumn;
+    const int at = GetCurrentXPosition(document);
     const int last = document.StaffCount * ColumnsPerStaff;
     if (last > at) EnsureRoomForInsert(document, rows);
     int end = std::min(last, document.ColumnCapacity) + 1;
@@ -41,8 +40,7 @@ void copyStaff(Document& document) {
 }
 
 void copyColumns(Document& document, int columns) {
-    GetCurrentXPosition(document);
-    document.ClipboardStart = document.CurrentColumn;
+    document.ClipboardStart = GetCurrentXPosition(document);
     document.ClipboardLength = columns;
     CopyData(document, 0, document.RowCapacity);
 }
@@ -64,8 +62,8 @@ void CopyData(Document& document, int firstRow, int lastRow) {
 }
 
 void PasteProcedure(Document& document, Rows rows) {
-    GetCurrentXPosition(document);
-    if (document.ClipboardLength + document.CurrentColumn > document.ColumnCapacity) growByOneStaff(document);
+    if (document.ClipboardLength + GetCurrentXPosition(document) > document.ColumnCapacity)
+        growByOneStaff(document);
     for (int i = 0; i < document.ClipboardLength; ++i)
         makeRoom(document, rows);
     const RowRange range = rowsOf(document, rows);

@@ -1,12 +1,15 @@
 // The editor: keys, cursor, note entry, redraw and scrolling over one document. It is the only code that
-// changes cells. The given names are the commands' own.
+// changes cells. It asks nobody back: what it needs to know stands in `Surroundings`, and what is to be shown
+// is told at the end of each act. The given names are the commands' own.
 #pragma once
 
 #include "core/document/document.h"
 #include "core/language/language_words.h"
-#include "editing/editor_host.h"
+#include "editing/acts.h"
+#include "editing/cursor.h"
 #include "editing/structure_edits.h"
-#include "sound/midi_output.h"
+#include "editing/surroundings.h"
+#include "sound/sound_stopper.h"
 #include "tabview/tab_view.h"
 
 namespace tabrova {
@@ -20,23 +23,21 @@ struct EditingModes {
     bool intelligent = false; // mnuIntelligent
 };
 
-struct ScrollState {
-    int minimum = 1;
-    int maximum = 1;
-    int value = 1; // TopStaff + 1
-};
-
-struct EditorParts {
+// What all editing works on and reports to.
+struct EditingParts {
     Document& document;
     TabView& view;
     MidiOutput& sound;
-    EditorHost& host;
+    SoundStopper& stopper;
     const LanguageWords& words;
+    Acts& acts;
+    ShownTexts& texts;
+    const Surroundings& surroundings;
 };
 
 class Editor {
   public:
-    explicit Editor(EditorParts parts);
+    explicit Editor(EditingParts parts);
 
     // Keys and internal codes. Of `shift` only bit 1 is looked at.
     void picDocument_KeyDown(int keyCode, int shift);
@@ -44,6 +45,11 @@ class Editor {
     void DrawAndStorePercussionNote(int drumKey);
     void StoreTechnique(int code);
 
+    // What the bend panel and the repeat panel (1 to 15 times) were closed with.
+    void takeBend(int code);
+    void takeRepeat(int times);
+    // A panel was closed without a choice: a key that does nothing but redraw.
+    void panelClosed();
     // A choice in the fret palette, by the place of its highlight: the old note goes first.
     void chooseFromPalette(const Rect& highlight);
 
@@ -59,6 +65,7 @@ class Editor {
     void mnuEditNewBarAfterCurrentBar();
     void mnuEditNewBarBeforeCurrent();
     void mnuEditnewBarAtEndofDocument();
+    // The document's only staff cannot go: it is cleared.
     void mnuDeleteBar();
     void InsertColumnAllTracks();
     void InsertColumnOnTrack();
@@ -66,29 +73,42 @@ class Editor {
     void RemoveColumnOnTrack();
     // The note at the cursor takes this many columns: 1 is a sixteenth, 16 a whole note, 3 the "triplet".
     void SetNoteLength(int columns);
+    void copyStaff();
+    void copyColumns(int columns); // 1 to 8, from the cursor on
     void pasteColumns(Rows rows);
 
     void refreshdrawing();
     // The page has a new size: the cursor is pulled back onto it.
     void pageResized();
     void SetDebugLabel();
+    void focusPage();
 
     void MakeNewDocument();
     // False if the document cannot grow any more.
     bool AppendStaff();
 
-    const PageObjects& page() const { return page_; }
-    PageObjects& page() { return page_; }
-    const ScrollState& scroll() const { return scroll_; }
+    Cursor& cursor() { return cursor_; }
+    const PageObjects& page() const { return cursor_.objects; }
+    const ScrollState& scroll() const { return cursor_.scroll; }
+    // Of the objects above the page.
+    void setCursorColor(QRgb color);
+    void setCursorBorderWidth(int pixels);
+    void setNoteLineColor(QRgb color) { cursor_.objects.noteLineColor = color; }
+    void showPageLine(bool shown);
+    // White paper under the tab instead of the tinted one.
+    bool tabOneColor() const { return parts_.view.picDocument.background() == WhitePaper; }
+    void setTabOneColor(bool oneColor);
+
     EditingModes modes;
 
   private:
+    void clearOnlyStaff();
     void moveRight();
     void moveLeft();
     void stepStaffForward();
     void stepStaffBack();
 
-    void storeNoteText(int code);
+    void storeNoteText(int code, CellPlace cell);
     void CreateAndStorePChord();
     void openPanel(Panel panel);
     void drawTypedCell();
@@ -98,23 +118,18 @@ class Editor {
     void removeBarMark();
     void runKey(int keyCode, int shift);
 
-    void finishStructureEdit();
-    void pullPageIntoDocument();
-
     void DrawFretBoard();
     void DrawNotationAndRhythm();
+    bool VScroll1_Moved(int value);
+    void drawPage();
+    void showWhatWasDrawn();
     void placeCursorAt(int x, int y);
-    void updateScrollRange();
-    int scrollMaximum() const;
-    void keepCursorOnPage();
+    Changes& changes() { return parts_.acts.changes(); }
 
+    EditingParts parts_;
     Document& document_;
     TabView& view_;
-    MidiOutput& sound_;
-    EditorHost& host_;
-    const LanguageWords& words_;
-    PageObjects page_;
-    ScrollState scroll_;
+    Cursor cursor_;
 };
 
 } // namespace tabrova

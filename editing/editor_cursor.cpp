@@ -1,5 +1,4 @@
 // The cursor's moves, by key and by mouse.
-#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/panel_placement.h"
 
@@ -15,6 +14,7 @@ constexpr int LastString = StringsPerTrack - 1;
 } // namespace
 
 void Editor::MoveCursor(Direction direction) {
+    const Act act(parts_.acts, "MoveCursor");
     switch (direction) {
     case Direction::Right:
         moveRight();
@@ -23,74 +23,59 @@ void Editor::MoveCursor(Direction direction) {
         moveLeft();
         break;
     case Direction::Up:
-        if (document_.CurrentString > 0) {
-            --document_.CurrentString;
-            page_.nCursor.top -= StringSpacing;
-        }
+        cursor_.stepString(-1);
         break;
     case Direction::Down:
-        if (document_.CurrentString < LastString) {
-            ++document_.CurrentString;
-            page_.nCursor.top += StringSpacing;
-        }
+        cursor_.stepString(1);
         break;
     case Direction::Nowhere:
         break;
     }
-    page_.placeLines();
+    cursor_.placeLines();
     DrawFretBoard();
-    host_.refreshFretboard();
+    changes().cursor = true;
 }
 
+// Moving past the end makes the document grow.
 void Editor::moveRight() {
-    if (document_.ColumnInStaff < LastColumnInStaff) {
-        ++document_.ColumnInStaff;
-        page_.nCursor.left += document_.ColumnWidth;
-        return;
-    }
-    // Moving past the end makes the document grow.
+    if (cursor_.stepColumn(1)) return;
     if (document_.CurrentStaff == document_.StaffCount && !AppendStaff()) return;
     stepStaffForward();
 }
 
 void Editor::stepStaffForward() {
-    document_.ColumnInStaff = 0;
-    page_.nCursor.top += SlotHeight;
-    ++document_.CurrentStaff;
+    cursor_.stepStaff(1, 0);
     refreshdrawing();
     if (document_.CurrentStaff != document_.TopStaff + document_.VisibleStaves + 1) return;
-    VScroll1_Change(scroll_.value + 1);
-    page_.nCursor.top -= SlotHeight;
+    VScroll1_Change(scroll().value + 1);
+    cursor_.slideMarker(-1);
     // Puts the staff back behind the correction that the scrolling made of its own.
-    document_.CurrentStaff = static_cast<std::int16_t>(document_.CurrentStaff + document_.VisibleStaves - 1);
-    picDocument_MouseDown(MouseButton::None, page_.nCursor.left, page_.nCursor.top);
+    cursor_.renumberStaff(document_.VisibleStaves - 1);
+    picDocument_MouseDown(MouseButton::None, page().nCursor.left, page().nCursor.top);
 }
 
 void Editor::moveLeft() {
-    if (document_.ColumnInStaff > 0) {
-        --document_.ColumnInStaff;
-        page_.nCursor.left -= document_.ColumnWidth;
-        return;
-    }
+    if (cursor_.stepColumn(-1)) return;
     if (document_.CurrentStaff > 1) stepStaffBack();
     refreshdrawing();
 }
 
 void Editor::stepStaffBack() {
-    document_.ColumnInStaff = LastColumnInStaff;
-    page_.nCursor.top -= SlotHeight;
-    --document_.CurrentStaff;
+    cursor_.stepStaff(-1, LastColumnInStaff);
     if (document_.CurrentStaff != document_.TopStaff) return;
-    VScroll1_Change(scroll_.value - 1);
-    page_.nCursor.top += SlotHeight;
-    ++document_.CurrentStaff;
+    VScroll1_Change(scroll().value - 1);
+    cursor_.slideMarker(1);
+    cursor_.renumberStaff(1);
 }
 
 void Editor::picDocument_MouseDown(MouseButton button, int x, int y) {
     if (x < CursorLeft || y < CursorTop) return;
+    const Act act(parts_.acts, "picDocument_MouseDown");
     placeCursorAt(x, y);
-    if (button == MouseButton::Right && document_.isGuitarTrack(document_.CurrentTrack))
-        host_.openNoteSelector(placeAtPointer(x, y, host_.pageGeometry(), host_.noteSelectorGeometry()));
+    if (button != MouseButton::Right || !document_.isGuitarTrack(document_.CurrentTrack)) return;
+    const PanelSize& palette = parts_.surroundings.fretPalette;
+    changes().fretPalette =
+        placeAtPointer(x, y, parts_.surroundings.page, {0, 0, palette.width, palette.height});
 }
 
 void Editor::placeCursorAt(int x, int y) {
@@ -102,12 +87,7 @@ void Editor::placeCursorAt(int x, int y) {
         return;
     const int slotTop = SlotHeight * slot + CursorTop;
     const double string = roundHalfToEven(static_cast<double>(y - slotTop) / StringSpacing);
-    document_.ColumnInStaff = column;
-    document_.CurrentString = static_cast<std::int16_t>(std::min<double>(string, LastString));
-    document_.CurrentStaff = static_cast<std::int16_t>(staff);
-    SetDebugLabel();
-    page_.nCursor.left = document_.ColumnWidth * column + CursorLeft;
-    page_.nCursor.top = slotTop + StringSpacing * document_.CurrentString;
+    cursor_.moveTo(staff, column, static_cast<int>(std::min<double>(string, LastString)), slotTop);
     refreshdrawing();
 }
 

@@ -1,5 +1,4 @@
 // Keys, techniques and bar marks: what a key does to the cell under the cursor.
-#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/fret_palette.h"
 #include "editing/key_codes.h"
@@ -25,13 +24,13 @@ Direction directionOf(int keyCode) {
 
 } // namespace
 
-Editor::Editor(EditorParts parts)
-    : document_(parts.document), view_(parts.view), sound_(parts.sound), host_(parts.host),
-      words_(parts.words) {}
+Editor::Editor(EditingParts parts)
+    : parts_(parts), document_(parts.document), view_(parts.view), cursor_(parts.document) {}
 
 void Editor::picDocument_KeyDown(int keyCode, int shift) {
+    const Act act(parts_.acts, "picDocument_KeyDown");
     if (isArrowKey(keyCode)) MoveCursor(directionOf(keyCode));
-    GetCurrentXPosition(document_);
+    cursor_.column();
     if (!document_.isGuitarTrack(document_.CurrentTrack)) {
         const auto row = keyRow(keyCode, shift);
         if (!row || !row->acceptedOnPercussion) return;
@@ -39,7 +38,7 @@ void Editor::picDocument_KeyDown(int keyCode, int shift) {
     runKey(keyCode, shift);
     // A key without a row of its own is a plain redraw.
     if (!isArrowKey(keyCode)) refreshdrawing();
-    host_.refreshPage();
+    changes().page = true;
     SetDebugLabel();
 }
 
@@ -63,37 +62,59 @@ void Editor::runKey(int keyCode, int shift) {
 
 // Any mark that begins with "r" counts as a repeat.
 void Editor::removeBarMark() {
-    const std::string_view mark = document_.barMark(document_.CurrentColumn);
-    if (mark.starts_with('.') || mark.starts_with('r')) document_.setBarMark(document_.CurrentColumn, "");
+    const int column = cursor_.column();
+    const std::string_view mark = document_.barMark(column);
+    if (mark.starts_with('.') || mark.starts_with('r')) document_.setBarMark(column, "");
 }
 
 void Editor::StoreTechnique(int code) {
-    GetCurrentXPosition(document_);
+    const Act act(parts_.acts, "StoreTechnique");
+    const CellPlace cell = cursor_.cell();
     if (code == key::B) openPanel(Panel::Bend);
     blankTechniquePlace();
-    document_.setTechnique(document_.CurrentColumn, document_.cursorRow(), techniqueText(code));
+    document_.setTechnique(cell.column, cell.row, techniqueText(code));
     if (modes.intelligent && (code == key::H || code == key::T)) picDocument_KeyDown(key::Right, 0);
 }
 
 // The second and third row put the first digit into the cell, which the typed digit then completes.
 void Editor::chooseFromPalette(const Rect& highlight) {
+    const Act act(parts_.acts, "picNoteSelector_Click");
+    changes().pageTakesKeyboard = true;
     picDocument_KeyDown(key::Delete, 0);
     const auto fret = paletteFret(highlight);
     if (!fret || !document_.isGuitarTrack(document_.CurrentTrack)) return;
-    if (*fret >= 10)
-        document_.setNote(document_.CurrentColumn, document_.cursorRow(), std::to_string(*fret / 10));
+    const CellPlace cell = cursor_.cell();
+    if (*fret >= 10) document_.setNote(cell.column, cell.row, std::to_string(*fret / 10));
     picDocument_KeyDown(key::Digit0 + *fret % 10, 0);
 }
 
+void Editor::takeBend(int code) {
+    const Act act(parts_.acts, "picBend_KeyDown");
+    StoreTechnique(code);
+    refreshdrawing();
+    changes().pageTakesKeyboard = true;
+}
+
+void Editor::takeRepeat(int times) {
+    const Act act(parts_.acts, "RepeatScroller_KeyDown");
+    DrawAndStoreNote(code::ClosedRepeatBase + times);
+    changes().page = true;
+    changes().pageTakesKeyboard = true;
+}
+
+void Editor::panelClosed() { picDocument_KeyDown(key::RedrawOnly, 0); }
+
 void Editor::openPanel(Panel panel) {
-    host_.openPanel(panel,
-                    placeBesideCursor(page_.nCursor, host_.pageGeometry(), host_.panelGeometry(panel)));
+    const Surroundings& around = parts_.surroundings;
+    const PanelSize& size = panel == Panel::Bend ? around.bendPanel : around.repeatPanel;
+    const Rect place = placeBesideCursor(page().nCursor, around.page, {0, 0, size.width, size.height});
+    changes().panel = PanelOpening{panel, place};
 }
 
 // A piece of plain string over the technique's place; the redraw behind every key puts the rest right.
 void Editor::blankTechniquePlace() {
-    const Rect place = {page_.nCursor.right() + 2, page_.nCursor.top + 1, document_.ColumnWidth - CursorWidth,
-                        CellHeight};
+    const Rect place = {page().nCursor.right() + 2, page().nCursor.top + 1,
+                        document_.ColumnWidth - CursorWidth, CellHeight};
     view_.copyToPage({place, sprite::BlankCell, Raster::SrcCopy});
 }
 

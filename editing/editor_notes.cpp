@@ -1,7 +1,6 @@
 // Note entry: one typed note is stored, its one cell drawn and its column sounded, with no walk over the
 // page.
 #include "core/document/bar_marks.h"
-#include "core/document/document_operations.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
 #include "sound/column_preview.h"
@@ -32,8 +31,8 @@ std::string plainDecimal(double value) { return std::to_string(static_cast<int>(
 } // namespace
 
 void Editor::DrawAndStoreNote(int code) {
-    GetCurrentXPosition(document_);
-    storeNoteText(code);
+    const Act act(parts_.acts, "DrawAndStoreNote");
+    storeNoteText(code, cursor_.cell());
     if (code == code::ClosedRepeatPanel) openPanel(Panel::Repeat);
     // Before the drawing and the sound, and for every code: the chord's notes are in the grid when the column
     // sounds.
@@ -43,9 +42,8 @@ void Editor::DrawAndStoreNote(int code) {
     soundColumn();
 }
 
-void Editor::storeNoteText(int code) {
-    const int column = document_.CurrentColumn;
-    const int row = document_.cursorRow();
+void Editor::storeNoteText(int code, CellPlace cell) {
+    const auto [column, row] = cell;
     if (const auto mark = barMarkOf(code)) return document_.setBarMark(column, *mark);
     if (isDigitCode(code)) {
         const std::string_view old = document_.note(column, row);
@@ -59,9 +57,7 @@ void Editor::storeNoteText(int code) {
 // A fifth and an octave above the root on a standard guitar.
 void Editor::CreateAndStorePChord() {
     if (document_.CurrentString < LowestChordString) return;
-    GetCurrentXPosition(document_);
-    const int column = document_.CurrentColumn;
-    const int row = document_.cursorRow();
+    const auto [column, row] = cursor_.cell();
     const auto root = toNumber(document_.note(column, row));
     if (!root || *root >= HighestChordRoot) return;
     const auto fret = toInteger16(*root + 2.0);
@@ -74,7 +70,7 @@ void Editor::drawTypedCell() {
     const std::string_view text = document_.note(document_.CurrentColumn, document_.cursorRow());
     const auto glyph = text.empty() ? std::optional<Rect>(sprite::BlankCell) : noteGlyph(text);
     if (!glyph) return;
-    view_.copyToPage({{page_.nCursor.left + 2, page_.nCursor.top + 1, glyph->width, glyph->height},
+    view_.copyToPage({{page().nCursor.left + 2, page().nCursor.top + 1, glyph->width, glyph->height},
                       *glyph,
                       Raster::SrcCopy});
 }
@@ -82,8 +78,8 @@ void Editor::drawTypedCell() {
 // "." and "r" deliberately stand 8 pixels left of where the next redraw puts them.
 void Editor::drawTypedBarMark() {
     const std::string_view mark = document_.barMark(document_.CurrentColumn);
-    const int left = page_.nCursor.left;
-    const int top = page_.nCursor.top - StringSpacing * document_.CurrentString;
+    const int left = page().nCursor.left;
+    const int top = page().nCursor.top - StringSpacing * document_.CurrentString;
     const auto draw = [this](const Rect& source, int x, int y) {
         view_.copyToPage({{x, y, source.width, source.height}, source, Raster::SrcAnd});
     };
@@ -97,18 +93,19 @@ void Editor::drawTypedBarMark() {
 }
 
 void Editor::soundColumn() {
-    GetCurrentXPosition(document_);
-    sound_.AllNotesOff();
-    sendColumnPreview(document_, sound_);
+    cursor_.column();
+    parts_.sound.AllNotesOff();
+    sendColumnPreview(document_, parts_.sound);
     const auto mode = static_cast<RealtimeMode>(document_.RealtimeMode);
     if (mode == RealtimeMode::AllTracks || mode == RealtimeMode::CurrentTrack)
-        host_.restartSoundStopper(previewDuration(document_));
+        parts_.stopper.restart(previewDuration(document_));
 }
 
 void Editor::DrawAndStorePercussionNote(int drumKey) {
-    GetCurrentXPosition(document_);
-    document_.setNote(document_.CurrentColumn, document_.cursorRow(), std::to_string(drumKey));
-    sound_.NoteOn(PercussionChannel, drumKey, sound_.FixedVelocity);
+    const Act act(parts_.acts, "DrawAndStorePercussionNote");
+    const CellPlace cell = cursor_.cell();
+    document_.setNote(cell.column, cell.row, std::to_string(drumKey));
+    parts_.sound.NoteOn(PercussionChannel, drumKey, parts_.sound.FixedVelocity);
     refreshdrawing();
 }
 

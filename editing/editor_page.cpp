@@ -1,14 +1,25 @@
 // The whole-page redraw, scrolling, and the commands that replace or lengthen the document.
 #include "core/document/document_operations.h"
 #include "editing/editor.h"
-#include "editing/key_codes.h"
 #include "editing/statistics_line.h"
-
-#include <algorithm>
 
 namespace tabrova {
 
+// A range that shrinks below the thumb moves it, like any other change of its value, with a redraw of its
+// own: the notation is then drawn over itself, deliberately.
 void Editor::refreshdrawing() {
+    const Act act(parts_.acts, "refreshdrawing");
+    drawPage();
+    changes().scrollBar = true;
+    if (!cursor_.takeScrollRange()) {
+        VScroll1_Moved(cursor_.scroll.maximum);
+        drawPage();
+        showWhatWasDrawn();
+    }
+    showWhatWasDrawn();
+}
+
+void Editor::drawPage() {
     DrawFretBoard();
     view_.picDocument.Cls();
     view_.picStandardNotation.Cls();
@@ -16,93 +27,103 @@ void Editor::refreshdrawing() {
     document_.ColumnWidth = columnWidth(view_.picDocument.width());
     view_.drawStaves(document_);
     view_.drawStripBackground();
-    updateScrollRange();
+}
+
+// The cursor's top is left alone: whoever changes the staff or string keeps it up to date.
+void Editor::showWhatWasDrawn() {
+    ++changes().redraws;
     DrawNotationAndRhythm();
-    host_.refreshStrip();
-    host_.refreshPage();
-    // The cursor's top is left alone: whoever changes the staff or string keeps it up to date.
-    page_.nCursor.left = document_.ColumnInStaff * document_.ColumnWidth + CursorLeft;
+    changes().strip = true;
+    changes().page = true;
+    cursor_.placeMarkerInColumn();
     MoveCursor(Direction::Nowhere);
-    host_.UpdateTechniqueButtons(document_.isGuitarTrack(document_.CurrentTrack));
+    changes().techniques = true;
     SetDebugLabel();
-    host_.setTitle("Tabrova - " + document_.Title + " by " + document_.Author);
+    parts_.texts.title = "Tabrova - " + document_.Title + " by " + document_.Author;
+    changes().title = true;
 }
 
 void Editor::DrawNotationAndRhythm() {
-    if (document_.isGuitarTrack(document_.CurrentTrack)) GetCurrentXPosition(document_);
+    if (document_.isGuitarTrack(document_.CurrentTrack)) cursor_.column();
     view_.DrawNotationAndRhythm(document_);
 }
 
-int Editor::scrollMaximum() const {
-    return document_.VisibleStaves >= document_.StaffCount
-               ? 1
-               : document_.StaffCount - document_.VisibleStaves + 1;
-}
-
-void Editor::updateScrollRange() {
-    scroll_.maximum = scrollMaximum();
-    host_.mirrorScrollBar(scroll_.maximum, std::min(scroll_.value, scroll_.maximum));
-    // A range that shrinks below the thumb moves it, like any other change of its value.
-    if (scroll_.value > scroll_.maximum) VScroll1_Change(scroll_.maximum);
+bool Editor::VScroll1_Moved(int value) {
+    if (!cursor_.scrollTo(value)) return false;
+    changes().scrollBar = true;
+    changes().pageTakesKeyboard = true;
+    SetDebugLabel();
+    return true;
 }
 
 void Editor::VScroll1_Change(int value) {
-    value = std::clamp(value, scroll_.minimum, scroll_.maximum);
-    if (value == scroll_.value) return;
-    scroll_.value = value;
-    host_.mirrorScrollBar(scroll_.maximum, scroll_.value);
-    const int rowOfCursor = document_.CurrentStaff - document_.TopStaff;
-    document_.TopStaff = static_cast<std::int16_t>(value - 1);
-    host_.focusPage();
-    // The cursor stays where it is on the screen and lands on another staff.
-    int staff = document_.TopStaff + rowOfCursor;
-    if (rowOfCursor == document_.VisibleStaves + 1) staff -= document_.VisibleStaves;
-    document_.CurrentStaff = static_cast<std::int16_t>(staff);
-    SetDebugLabel();
-    refreshdrawing();
+    const Act act(parts_.acts, "VScroll1_Change");
+    if (VScroll1_Moved(value)) refreshdrawing();
 }
 
 void Editor::pageResized() {
+    const Act act(parts_.acts, "pageResized");
     refreshdrawing();
-    keepCursorOnPage();
+    cursor_.keepOnPage(view_.picDocument.height());
     MoveCursor(Direction::Nowhere);
     SetDebugLabel();
     refreshdrawing();
 }
 
-void Editor::keepCursorOnPage() {
-    constexpr int RoomBelowCursor = 15;
-    const int bottom =
-        page_.nCursor.top + RoomBelowCursor + (StringsPerTrack - document_.CurrentString) * StringSpacing;
-    if (bottom <= view_.picDocument.height() || document_.VisibleStaves < 1 ||
-        page_.nCursor.top <= SlotHeight)
-        return;
-    while (page_.nCursor.top > document_.VisibleStaves * SlotHeight) {
-        page_.nCursor.top -= SlotHeight;
-        --document_.CurrentStaff;
-    }
+void Editor::SetDebugLabel() {
+    const Act act(parts_.acts, "SetDebugLabel");
+    parts_.texts.statistics =
+        parts_.surroundings.debugMode ? debugLine(document_) : statisticsLine(document_, parts_.words);
+    changes().statistics = true;
 }
 
-void Editor::SetDebugLabel() {
-    host_.setStatistics(host_.debugMode() ? debugLine(document_) : statisticsLine(document_, words_));
+void Editor::focusPage() {
+    const Act act(parts_.acts, "focusPage");
+    changes().pageTakesKeyboard = true;
 }
 
 void Editor::MakeNewDocument() {
-    host_.unloadFileProperties();
+    const Act act(parts_.acts, "MakeNewDocument");
     resetToNewDocument(document_);
-    scroll_.value = document_.TopStaff + 1;
-    host_.mirrorScrollBar(scroll_.maximum, scroll_.value);
-    page_.nCursor.left = CursorLeft;
-    page_.nCursor.top = CursorTop;
+    cursor_.goHome();
+    changes().scrollBar = true;
     MoveCursor(Direction::Nowhere);
-    host_.tracksReplaced();
-    host_.setTrackPanel("Untitled Track " + words_.selectedTrack);
+    changes().tracks = true;
+    parts_.texts.trackPanel = "Untitled Track " + parts_.words.selectedTrack;
+    changes().trackPanel = true;
 }
 
 bool Editor::AppendStaff() {
+    const Act act(parts_.acts, "AppendStaff");
     if (!growByOneStaff(document_)) return false;
     refreshdrawing();
     return true;
+}
+
+void Editor::setCursorColor(QRgb color) {
+    const Act act(parts_.acts, "lstColors_Click");
+    cursor_.objects.color = color;
+    cursor_.objects.noteLineColor = color;
+    refreshdrawing();
+}
+
+void Editor::setCursorBorderWidth(int pixels) {
+    const Act act(parts_.acts, "chkEyeBall_Click");
+    cursor_.objects.borderWidth = pixels;
+    changes().page = true;
+    changes().strip = true;
+}
+
+void Editor::showPageLine(bool shown) {
+    const Act act(parts_.acts, "mnuViewNotation");
+    cursor_.objects.vLine1Visible = shown;
+    changes().page = true;
+}
+
+void Editor::setTabOneColor(bool oneColor) {
+    const Act act(parts_.acts, "chkTABOUT_Click");
+    view_.picDocument.setBackground(oneColor ? WhitePaper : PaperColor);
+    refreshdrawing();
 }
 
 } // namespace tabrova

@@ -6,85 +6,93 @@
 
 namespace tabrova {
 
-void Editor::finishStructureEdit() {
-    refreshdrawing();
-    SetDebugLabel();
-}
-
 void Editor::clearCurrentStaff(const StaffClear& what) {
+    const Act act(parts_.acts, "clearCurrentStaff");
     clearStaff(document_, what);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::mnuEditNewBarAfterCurrentBar() {
+    const Act act(parts_.acts, "mnuEditNewBarAfterCurrentBar");
     newStaffAfterCurrent(document_);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::mnuEditNewBarBeforeCurrent() {
+    const Act act(parts_.acts, "mnuEditNewBarBeforeCurrent");
     newStaffBeforeCurrent(document_);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::mnuEditnewBarAtEndofDocument() {
+    const Act act(parts_.acts, "mnuEditnewBarAtEndofDocument");
     AppendStaff();
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::mnuDeleteBar() {
-    if (document_.StaffCount <= 1) {
-        if (!host_.confirmClearingOnlyStaff()) return;
-        ClearStaffallall(document_);
-        return finishStructureEdit();
-    }
+    if (document_.StaffCount <= 1) return clearOnlyStaff();
+    const Act act(parts_.acts, "mnuDeleteBar");
     deleteCurrentStaff(document_);
-    pullPageIntoDocument();
+    cursor_.pullPageIntoDocument();
     // The cursor comes back into the document by plain moves.
     while (document_.CurrentStaff > document_.StaffCount)
         picDocument_KeyDown(key::Left, 0);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
-// A page that is scrolled further than the shorter document reaches slides back under the cursor, which stays
-// in its staff.
-void Editor::pullPageIntoDocument() {
-    const int staves = scroll_.value - scrollMaximum();
-    if (staves <= 0) return;
-    scroll_.value -= staves;
-    document_.TopStaff = static_cast<std::int16_t>(document_.TopStaff - staves);
-    page_.nCursor.top += staves * SlotHeight;
+void Editor::clearOnlyStaff() {
+    const Act act(parts_.acts, "mnuDeleteBar");
+    ClearStaffallall(document_);
+    refreshdrawing();
 }
 
 // The bar mark of the new column goes as if the user removed it.
 void Editor::InsertColumnAllTracks() {
+    const Act act(parts_.acts, "mnuEditInsertNoteOnAllTracks");
     InsertColumn(document_, Rows::AllTracks);
     picDocument_KeyDown(key::U, 0);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::InsertColumnOnTrack() {
+    const Act act(parts_.acts, "mnuEditInsertNoteOnCurrentTrack");
     InsertColumn(document_, Rows::CurrentTrack);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::RemoveColumnAllTracks() {
+    const Act act(parts_.acts, "mnuEditRemoveNoteonAllTracks");
     RemoveColumn(document_, Rows::AllTracks);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::RemoveColumnOnTrack() {
+    const Act act(parts_.acts, "mnuEditRemoveNoteonCurrentTrack");
     RemoveColumn(document_, Rows::CurrentTrack);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 void Editor::SetNoteLength(int columns) {
+    const Act act(parts_.acts, "SetNoteLength");
     tabrova::SetNoteLength(document_, columns);
     refreshdrawing();
 }
 
+void Editor::copyStaff() {
+    const Act act(parts_.acts, "mnuCopyStaff");
+    tabrova::copyStaff(document_);
+}
+
+void Editor::copyColumns(int columns) {
+    const Act act(parts_.acts, "mnuCopyNextBeat");
+    tabrova::copyColumns(document_, columns);
+}
+
 void Editor::pasteColumns(Rows rows) {
+    const Act act(parts_.acts, "mnuEditPaste");
     PasteProcedure(document_, rows);
-    finishStructureEdit();
+    refreshdrawing();
 }
 
 } // namespace tabrova

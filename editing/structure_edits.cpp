@@ -125,8 +125,7 @@ void deleteCurrentStaff(Document& document) {
 
 void InsertColumn(Document& document, Rows rows) {
     EnsureRoomForInsert(document, rows);
-    GetCurrentXPosition(document);
-    const int at = document.CurrentColumn;
+    const int at = GetCurrentXPosition(document);
     const int end = behindLastMove(document);
     makeRoomForColumn(document.NoteGrid, at, end, rowsOf(document, rows));
     makeRoomForColumn(document.TechniqueGrid, at, end, rowsOf(document, rows));
@@ -134,8 +133,7 @@ void InsertColumn(Document& document, Rows rows) {
 }
 
 void RemoveColumn(Document& document, Rows rows) {
-    GetCurrentXPosition(document);
-    const int at = document.CurrentColumn;
+    const int at = GetCurrentXPosition(document);
     moveCellsLeft(document.NoteGrid, at, 1, rowsOf(document, rows));
     moveCellsLeft(document.TechniqueGrid, at, 1, rowsOf(document, rows));
     if (rows == Rows::AllTracks) moveMarksLeft(document, at, 1);

@@ -1,7 +1,6 @@
 #include "forms/captions.h"
 
-#include "core/files/text_lines.h"
-#include "core/language/language_lines.h"
+#include "core/language/language_file.h"
 #include "forms/control_names.h"
 #include "forms/text_edges.h"
 
@@ -80,36 +79,18 @@ class FormControls {
     QHash<QString, QObject*> controls_;
 };
 
-void readLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {
-    const auto last = static_cast<std::size_t>(lastLanguageLine());
-    const std::vector<std::string> texts = readTextLines(activeLanguageFile(programFolder), last);
+void showTexts(QWidget& form, const std::filesystem::path& file, const MessageSink& message) {
     const FormControls controls(form);
-    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString())) {
-        const auto index = static_cast<std::size_t>(line.number - 1);
-        if (index >= texts.size()) break;
-        controls.show(line, QString::fromStdString(texts[index]).left(LongestText), message);
-    }
+    for (const LanguageText& each : languageTexts(form.objectName().toStdString(), file))
+        controls.show(*each.line, QString::fromStdString(each.text).left(LongestText), message);
 }
 
 } // namespace
 
-void showBuiltInCaptions(QWidget& form, const MessageSink& message) {
-    const FormControls controls(form);
-    for (const LanguageLine& line : languageLinesOf(form.objectName().toStdString()))
-        controls.show(line, QString::fromUtf8(line.text), message);
-}
+void showBuiltInCaptions(QWidget& form, const MessageSink& message) { showTexts(form, {}, message); }
 
 void loadLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message) {
-    showBuiltInCaptions(form, message);
-    readLanguage(form, programFolder, message);
-}
-
-std::filesystem::path activeLanguageFile(const std::filesystem::path& programFolder) {
-    return programFolder / "lang.trl";
-}
-
-std::filesystem::path installedLanguages(const std::filesystem::path& programFolder) {
-    return programFolder / "languages";
+    showTexts(form, activeLanguageFile(programFolder), message);
 }
 
 } // namespace tabrova

@@ -17,11 +17,8 @@ using MessageSink = std::function<void(std::string_view name, const QString& tex
 // The built-in texts; the form goes by its object name. The controls must be there already.
 void showBuiltInCaptions(QWidget& form, const MessageSink& message = {});
 
-// The built-in texts and then the active language file's, line by line as far as the file goes: what a form
-// does first when it loads. Texts that are longer than any caption can be are cut.
+// The active language file's texts as far as the file goes, the built-in ones behind: what a form does first
+// when it loads. Texts that are longer than any caption can be are cut.
 void loadLanguage(QWidget& form, const std::filesystem::path& programFolder, const MessageSink& message = {});
-
-std::filesystem::path activeLanguageFile(const std::filesystem::path& programFolder);
-std::filesystem::path installedLanguages(const std::filesystem::path& programFolder);
 
 } // namespace tabrova

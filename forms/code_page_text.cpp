@@ -15,10 +15,7 @@ QString fromCodePage(const std::string& bytes) {
     return text;
 }
 
-QString shownName(const std::string& bytes) {
-    const QString text = fromCodePage(bytes.substr(0, LongestShownName));
-    return bytes.size() > LongestShownName ? text + QChar(0x2026) : text;
-}
+QString shownName(const std::string& bytes) { return QString::fromStdString(shownNameUtf8(bytes)); }
 
 std::string toCodePage(const QString& text) {
     std::string bytes;

@@ -13,9 +13,7 @@ class QLineEdit;
 namespace tabrova {
 
 QString fromCodePage(const std::string& bytes);
-// A title or a name as windows show it: a file may bring one of any length, of which the beginning is shown,
-// with three dots behind it.
-constexpr std::size_t LongestShownName = 1000; // characters
+// A title or a name as windows show it, its beginning if it is a long one.
 QString shownName(const std::string& bytes);
 // A character that the page does not hold becomes "?"; text boxes refuse such characters before it comes to
 // that.

@@ -1,5 +1,7 @@
 #include "shell/fretboard_widget.h"
 
+#include "shell/key_mapping.h"
+
 #include <QMouseEvent>
 
 namespace tabrova {
@@ -11,10 +13,10 @@ FretboardWidget::FretboardWidget(const Surface& surface, QWidget* parent)
 
 void FretboardWidget::mousePressEvent(QMouseEvent* event) {
     const QPoint place = pixelAt(*event);
-    handlers_.mouseDown(event->button(), place.x(), place.y());
+    mouseDown(mouseButtonOf(event->button()), place.x(), place.y());
 }
 
 // Its first press has come as a press of its own; the second one is no press any more.
-void FretboardWidget::mouseDoubleClickEvent(QMouseEvent*) { handlers_.doubleClick(); }
+void FretboardWidget::mouseDoubleClickEvent(QMouseEvent*) { doubleClick(); }
 
 } // namespace tabrova

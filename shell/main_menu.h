@@ -2,6 +2,8 @@
 // captions come from the language lines.
 #pragma once
 
+#include "workbench/menu_state.h"
+
 #include <QAction>
 #include <QHash>
 #include <QMenuBar>
@@ -11,7 +13,7 @@
 
 namespace tabrova {
 
-class MainMenu {
+class MainMenu : public MenuState {
   public:
     // Every menu and item gets its name as objectName; an item without a command is disabled.
     explicit MainMenu(QMenuBar& bar);
@@ -22,8 +24,9 @@ class MainMenu {
     // The item runs `command` from now on, and is enabled.
     void connectItem(const QString& name, std::function<void()> command);
     void setEnabled(const QString& name, bool enabled);
-    bool isChecked(const QString& name) const;
-    void setChecked(const QString& name, bool checked);
+    bool isEnabled(const QString& name) const override { return action(name)->isEnabled(); }
+    bool isChecked(const QString& name) const override;
+    void setChecked(const QString& name, bool checked) override;
 
   private:
     QHash<QString, QAction*> actions_;

@@ -36,11 +36,11 @@ void PageWidget::keyPressEvent(QKeyEvent* event) {
     // A key that is held down from before the page had the keyboard belongs to what had it then.
     if (event->isAutoRepeat() && event->key() != heldKey_) return;
     heldKey_ = event->key();
-    if (event->key() == Qt::Key_PageUp) return handlers_.scrollPageUp();
-    if (event->key() == Qt::Key_PageDown) return handlers_.scrollPageDown();
-    if (event->key() == Qt::Key_Escape) return handlers_.escape();
+    if (event->key() == Qt::Key_PageUp) return scrolledByPages(-1);
+    if (event->key() == Qt::Key_PageDown) return scrolledByPages(1);
+    if (event->key() == Qt::Key_Escape) return escaped();
     const KeyPress press = keyPressOf(*event);
-    handlers_.key(press.keyCode, press.shift);
+    keyDown(press.keyCode, press.shift);
 }
 
 void PageWidget::focusOutEvent(QFocusEvent* event) {
@@ -51,13 +51,13 @@ void PageWidget::focusOutEvent(QFocusEvent* event) {
 void PageWidget::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
     const QPoint place = pixelAt(*event);
-    handlers_.mouseDown(event->button(), place.x(), place.y());
+    mouseDown(mouseButtonOf(event->button()), place.x(), place.y());
 }
 
 // The second press of a double click is a press like the first.
 void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
-    handlers_.doubleClick();
+    doubleClick();
 }
 
 // One notch of the wheel is one staff; fine wheels add up.
@@ -66,7 +66,7 @@ void PageWidget::wheelEvent(QWheelEvent* event) {
     wheelRest_ += event->angleDelta().y();
     const int staves = wheelRest_ / Notch;
     wheelRest_ -= staves * Notch;
-    if (staves != 0) handlers_.scrollBy(-staves);
+    if (staves != 0) scrolled(-staves);
     event->accept();
 }
 

@@ -2,6 +2,7 @@
 // on.
 #pragma once
 
+#include "editing/editor.h"
 #include "shell/surface_widget.h"
 #include "tabview/page_geometry.h"
 
@@ -9,18 +10,14 @@ namespace tabrova {
 
 class PageWidget : public SurfaceWidget {
   public:
-    struct Handlers {
-        std::function<void(int keyCode, int shift)> key;
-        std::function<void(int qtButton, int x, int y)> mouseDown;
-        std::function<void()> doubleClick;
-        std::function<void(int staves)> scrollBy;
-        std::function<void()> scrollPageUp;
-        std::function<void()> scrollPageDown;
-        std::function<void()> escape;
-    };
-
     PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent);
-    void setHandlers(Handlers handlers) { handlers_ = std::move(handlers); }
+
+    std::function<void(int keyCode, int shift)> keyDown;
+    std::function<void(MouseButton button, int x, int y)> mouseDown;
+    std::function<void()> doubleClick;
+    std::function<void(int staves)> scrolled;
+    std::function<void(int pages)> scrolledByPages;
+    std::function<void()> escaped;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -33,7 +30,6 @@ class PageWidget : public SurfaceWidget {
     void paintCursor(QPainter& painter) const;
 
     const PageObjects& objects_;
-    Handlers handlers_;
     int wheelRest_ = 0;
     int heldKey_ = 0; // the toolkit's number of the key that was pressed last
 };

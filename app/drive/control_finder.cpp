@@ -1,8 +1,7 @@
 #include "app/drive/control_finder.h"
 
 #include "forms/control_names.h"
-
-#include <QApplication>
+#include "shell/frmMain.h"
 
 namespace tabrova {
 
@@ -12,25 +11,25 @@ bool sameName(const QString& a, const QString& b) { return a.compare(b, Qt::Case
 
 } // namespace
 
-QList<QWidget*> loadedForms() {
-    QList<QWidget*> forms;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->objectName().startsWith("frm", Qt::CaseInsensitive)) forms.append(widget);
+QList<QWidget*> loadedForms(frmMain& main) {
+    QList<QWidget*> forms = {&main};
+    for (ToolWindow* window : main.tools().loadedWindows())
+        forms.append(window);
     return forms;
 }
 
-QWidget* findForm(const QString& name) {
-    for (QWidget* form : loadedForms())
+QWidget* findForm(frmMain& main, const QString& name) {
+    for (QWidget* form : loadedForms(main))
         if (sameName(form->objectName(), name)) return form;
     return nullptr;
 }
 
-FoundControl findControl(const QString& name) {
-    if (QWidget* form = findForm(name)) return {form, {}};
+FoundControl findControl(frmMain& main, const QString& name) {
+    if (QWidget* form = findForm(main, name)) return {form, {}};
     const qsizetype dot = name.indexOf('.');
     const bool hasForm = dot > 0 && name.startsWith("frm", Qt::CaseInsensitive);
     if (!hasForm && name.startsWith("frm", Qt::CaseInsensitive)) return {nullptr, "not loaded"};
-    QWidget* form = findForm(hasForm ? name.left(dot) : QString("frmMain"));
+    QWidget* form = findForm(main, hasForm ? name.left(dot) : QString("frmMain"));
     if (!form) return {nullptr, "not loaded"};
     QObject* control = controlNamed(*form, hasForm ? name.mid(dot + 1) : name);
     return control ? FoundControl{control, {}} : FoundControl{nullptr, "no such control"};

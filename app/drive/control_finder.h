@@ -14,11 +14,13 @@ struct FoundControl {
     QString error;
 };
 
-// All loaded windows that have a name, hidden ones included.
-QList<QWidget*> loadedForms();
-QWidget* findForm(const QString& name);
+class frmMain;
+
+// The main window and what its table of windows has loaded, hidden ones included.
+QList<QWidget*> loadedForms(frmMain& main);
+QWidget* findForm(frmMain& main, const QString& name);
 
 // `name` is a form, a control of the main window or `form.control`.
-FoundControl findControl(const QString& name);
+FoundControl findControl(frmMain& main, const QString& name);
 
 } // namespace tabrova

@@ -26,8 +26,8 @@ struct FoundWidget {
     QJsonObject failure;
 };
 
-FoundWidget findWidget(const QString& name) {
-    const FoundControl found = findControl(name);
+FoundWidget findWidget(frmMain& main, const QString& name) {
+    const FoundControl found = findControl(main, name);
     if (!found.object) return {nullptr, error(found.error)};
     auto* widget = qobject_cast<QWidget*>(found.object);
     return {widget, widget ? QJsonObject() : error("not a window or control with a place")};
@@ -77,21 +77,21 @@ QJsonObject Driver::key(const QStringList& words) {
 
 QJsonObject Driver::press(const QStringList& words) {
     if (words.size() != 3) return error("press CONTROL KEY");
-    const FoundWidget found = findWidget(words[1]);
+    const FoundWidget found = findWidget(window_, words[1]);
     if (!found.widget) return found.failure;
     return pressKey(found.widget, words[2]) ? Ok : error("no such key");
 }
 
 QJsonObject Driver::type(const QStringList& words) {
     if (words.size() < 3) return error("type CONTROL TEXT");
-    const FoundWidget found = findWidget(words[1]);
+    const FoundWidget found = findWidget(window_, words[1]);
     if (!found.widget) return found.failure;
     typeText(found.widget, words.mid(2).join(' '));
     return Ok;
 }
 
 QJsonObject Driver::doItem(const QStringList& words) {
-    const FoundControl found = findControl(words.value(1));
+    const FoundControl found = findControl(window_, words.value(1));
     if (!found.object) return error(found.error);
     auto* action = qobject_cast<QAction*>(found.object);
     if (!action) return error("not a menu item");
@@ -106,9 +106,9 @@ QJsonObject Driver::mouse(const QStringList& words) {
                                                   {"move", MouseAct::Move},
                                                   {"up", MouseAct::Up},
                                                   {"dblclick", MouseAct::DoubleClick}};
-    const FoundControl control = findControl(words.value(1));
+    const FoundControl control = findControl(window_, words.value(1));
     if (qobject_cast<QAction*>(control.object)) return doItem(words);
-    const FoundWidget found = findWidget(words.value(1));
+    const FoundWidget found = findWidget(window_, words.value(1));
     if (!found.widget) return found.failure;
     const auto command = mouseCommand(words.mid(2));
     if (!command) return error("CONTROL [X Y] [left|right|middle]");
@@ -118,7 +118,7 @@ QJsonObject Driver::mouse(const QStringList& words) {
 
 QJsonObject Driver::set(const QStringList& words) {
     if (words.size() < 3) return error("set CONTROL VALUE");
-    const FoundControl found = findControl(words[1]);
+    const FoundControl found = findControl(window_, words[1]);
     if (!found.object) return error(found.error);
     const QString failure = setControl(found.object, words.mid(2).join(' '));
     return failure.isEmpty() ? Ok : error(failure);
@@ -126,7 +126,7 @@ QJsonObject Driver::set(const QStringList& words) {
 
 QJsonObject Driver::get(const QStringList& words) {
     if (words.size() < 2) return error("get CONTROL [PROPERTY]");
-    const FoundControl found = findControl(words[1]);
+    const FoundControl found = findControl(window_, words[1]);
     if (!found.object) return error(found.error);
     if (words.size() == 2) return {{"value", controlValue(found.object)}};
     const auto value = controlProperty(found.object, words[2].toLower());
@@ -137,7 +137,7 @@ QJsonObject Driver::resize(const QStringList& words) {
     const auto width = wholeNumber(words, 2);
     const auto height = wholeNumber(words, 3);
     if (!width || !height) return error("resize FORM W H");
-    QWidget* form = findForm(words[1]);
+    QWidget* form = findForm(window_, words[1]);
     if (!form) return error("not loaded");
     if (form == &window_) {
         window_.resizeClient(*width, *height);
@@ -198,7 +198,7 @@ QJsonObject Driver::shot(const QStringList& words) {
     if (words.size() != 3) return error("shot NAME FILE.png");
     if (words[1].compare("picSource", Qt::CaseInsensitive) == 0)
         return window_.view().picSource().image().save(words[2]) ? Ok : error("cannot write the file");
-    const FoundWidget found = findWidget(words[1]);
+    const FoundWidget found = findWidget(window_, words[1]);
     if (!found.widget) return found.failure;
     const auto* surface = dynamic_cast<SurfaceWidget*>(found.widget);
     const QImage image = surface ? surface->surface().image() : found.widget->grab().toImage();
@@ -207,7 +207,7 @@ QJsonObject Driver::shot(const QStringList& words) {
 
 QJsonObject Driver::forms(const QStringList&) {
     QJsonArray loaded, visible;
-    for (const QWidget* form : loadedForms()) {
+    for (const QWidget* form : loadedForms(window_)) {
         loaded.append(form->objectName());
         if (form->isVisible()) visible.append(form->objectName());
     }

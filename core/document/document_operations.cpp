@@ -88,9 +88,10 @@ void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int
     }
 }
 
-void GetCurrentXPosition(Document& document) {
+std::int32_t GetCurrentXPosition(Document& document) {
     document.CurrentColumn =
         document.CurrentStaff * ColumnsPerStaff - ColumnsPerStaff + document.ColumnInStaff;
+    return document.CurrentColumn;
 }
 
 void ClearStaffallall(Document& document) {
@@ -100,6 +101,8 @@ void ClearStaffallall(Document& document) {
     for (int column = first; column < first + ColumnsPerStaff; ++column)
         document.setBarMark(column, "");
 }
+
+void forgetFileName(Document& document) { document.HasFileName = False16; }
 
 void resetToNewDocument(Document& document) {
     document.HasFileName = False16;

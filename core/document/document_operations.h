@@ -21,11 +21,14 @@ bool growByOneStaff(Document& document);
 void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4,
                   std::int16_t s5, std::int16_t s6);
 
-// CurrentColumn follows the cursor's staff and its column in the staff.
-void GetCurrentXPosition(Document& document);
+// CurrentColumn follows the cursor's staff and its column in the staff. Returns it.
+std::int32_t GetCurrentXPosition(Document& document);
 
 // The cells of the current staff's 32 columns become "": which arrays and rows, the name tells.
 void ClearStaffallall(Document& document);
+
+// The next save asks for a name.
+void forgetFileName(Document& document);
 
 // Fields, arrays and lists of a new document. The clipboard survives, as far as its rows fit.
 void resetToNewDocument(Document& document);

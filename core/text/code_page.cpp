@@ -65,6 +65,11 @@ std::string utf8FromCodePage(std::string_view bytes) {
     return out;
 }
 
+std::string shownNameUtf8(std::string_view bytes) {
+    const std::string text = utf8FromCodePage(bytes.substr(0, LongestShownName));
+    return bytes.size() > LongestShownName ? text + "\xE2\x80\xA6" : text;
+}
+
 std::optional<std::string> codePageFromUtf8(std::string_view utf8) {
     std::string out;
     while (!utf8.empty()) {

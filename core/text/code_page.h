@@ -17,6 +17,11 @@ std::optional<unsigned char> byteOf(char32_t codePoint);
 // UTF-8 of the bytes.
 std::string utf8FromCodePage(std::string_view bytes);
 
+// A title or a name as it is shown, in UTF-8: a file may bring one of any length, of which the beginning is
+// shown, with three dots behind it.
+constexpr std::size_t LongestShownName = 1000; // characters
+std::string shownNameUtf8(std::string_view bytes);
+
 // A character that the page does not hold, or a malformed sequence, gives std::nullopt.
 std::optional<std::string> codePageFromUtf8(std::string_view utf8);
 

@@ -1,7 +1,7 @@
 #include "organisers/options/frmOptions.h"
 
 #include "core/files/text_lines.h"
-#include "forms/captions.h"
+#include "core/language/language_file.h"
 #include "forms/plain_tool_tips.h"
 #include "platform/paths.h"
 #include "sound/pitch.h"
@@ -28,17 +28,17 @@ constexpr std::array TestFrets = {0, 0, 1, 2, 2, 0}; // E major, string 0 to 5
 
 } // namespace
 
-frmOptions::~frmOptions() { services_.synthesizer.changed = nullptr; }
+frmOptions::~frmOptions() { services().synthesizer.changed = nullptr; }
 
 void frmOptions::Form_Load() {
     LoadLanguage();
-    chkSplash_->setChecked(services_.settings.GetSetting(Section, SplashFlag, "1") == "1");
-    const auto mode = static_cast<std::size_t>(host_.document().RealtimeMode);
+    chkSplash_->setChecked(services().settings.GetSetting(Section, SplashFlag, "1") == "1");
+    const auto mode = static_cast<std::size_t>(document().RealtimeMode);
     if (mode < realtimeModes_.size()) realtimeModes_[mode]->setChecked(true);
-    chkEyeBall_->setChecked(host_.cursorBorderWidth() == 2);
-    chkTABOUT_->setChecked(host_.tabOneColor());
+    chkEyeBall_->setChecked(editor().page().borderWidth == 2);
+    chkTABOUT_->setChecked(editor().tabOneColor());
     lst_Devices_->clear();
-    for (const MidiDeviceRow& row : host_.sound().FillDeviceList()) {
+    for (const MidiDeviceRow& row : sound().FillDeviceList()) {
         auto* item = new QListWidgetItem(row.name, lst_Devices_);
         item->setData(Qt::UserRole, row.id);
         item->setToolTip(asPlainHint(row.name));
@@ -50,22 +50,18 @@ void frmOptions::Form_Load() {
     showSynthesizer();
 }
 
-void frmOptions::LoadLanguage() { loadLanguage(*this, services_.programFolder, messageSink()); }
-
-MessageSink frmOptions::messageSink() {
-    return [this](std::string_view name, const QString& text) {
-        if (name == "loading") loading_ = text;
-        if (name == "none") none_ = text;
-        if (name == "notInUse") notInUse_ = text;
-    };
+void frmOptions::takeMessage(std::string_view name, const QString& text) {
+    if (name == "loading") loading_ = text;
+    if (name == "none") none_ = text;
+    if (name == "notInUse") notInUse_ = text;
 }
 
-void frmOptions::showTab(OptionsTab tab) { OptionsTabs_->setCurrentIndex(static_cast<int>(tab)); }
+void frmOptions::Form_Opened(int tab) { OptionsTabs_->setCurrentIndex(tab); }
 
 void frmOptions::listLanguages() {
     namespace fs = std::filesystem;
     std::error_code failed;
-    const fs::path folder = installedLanguages(services_.programFolder);
+    const fs::path folder = installedLanguages(services().programFolder);
     fs::create_directory(folder, failed);
     QStringList names;
     for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
@@ -83,34 +79,32 @@ void frmOptions::lstLanguages_DblClick() {
     const QListWidgetItem* row = lstLanguages_->currentItem();
     if (!row) return;
     std::error_code failed;
-    const std::filesystem::path active = activeLanguageFile(services_.programFolder);
+    const std::filesystem::path active = activeLanguageFile(services().programFolder);
     std::filesystem::remove(active, failed);
-    copyTextFile(installedLanguages(services_.programFolder) / pathOf(row->text()) / "lang.trl", active);
-    LoadLanguage();
+    copyTextFile(installedLanguages(services().programFolder) / pathOf(row->text()) / "lang.trl", active);
+    context_.commands.language.languageApplied();
     showSynthesizer();
-    host_.languageApplied();
 }
 
 // A position that is not there any more leaves nothing chosen: what is sent is dropped until the user
 // chooses.
 void frmOptions::chooseStoredDevice() {
-    const QString stored = services_.settings.GetSetting(Section, DeviceIndex, "0");
+    const QString stored = services().settings.GetSetting(Section, DeviceIndex, "0");
     const auto position = storedPosition(stored, lst_Devices_->count());
     lst_Devices_->setCurrentRow(position.value_or(-1));
     lblDeviceGone_->setVisible(!position);
-    if (!position) return host_.sound().dropUntilOpened();
+    if (!position) return sound().dropUntilOpened();
     lst_Devices_Click();
 }
 
 void frmOptions::lst_Devices_Click() {
     const QListWidgetItem* row = lst_Devices_->currentItem();
     if (!row) return;
-    host_.sound().OpenMidiDevice(row->data(Qt::UserRole).toInt());
+    sound().OpenMidiDevice(row->data(Qt::UserRole).toInt());
     lblDeviceGone_->hide();
-    const Document& document = host_.document();
-    if (const auto program = listInteger(document.TrackInstruments, document.CurrentTrack - 1))
-        host_.sound().ProgramChange(GuitarChannel, *program);
-    services_.settings.SaveSetting(Section, DeviceIndex, QString::number(lst_Devices_->currentRow()));
+    if (const auto program = listInteger(document().TrackInstruments, document().CurrentTrack - 1))
+        sound().ProgramChange(GuitarChannel, *program);
+    services().settings.SaveSetting(Section, DeviceIndex, QString::number(lst_Devices_->currentRow()));
     showSynthesizer();
 }
 
@@ -121,51 +115,52 @@ void frmOptions::connectSound() {
     };
     for (std::size_t mode = 0; mode < realtimeModes_.size(); ++mode)
         connect(realtimeModes_[mode], &QRadioButton::toggled, this, [this, mode](bool chosen) {
-            if (chosen) host_.document().RealtimeMode = static_cast<std::int16_t>(mode);
+            if (chosen) context_.commands.properties.setRealtimeMode(static_cast<std::int16_t>(mode));
         });
     connect(cmdSoundBank_, &QPushButton::clicked, this, [this] { chooseBank(); });
     connect(cmdTestSound_, &QPushButton::clicked, this, [this] { testSound(); });
-    services_.synthesizer.changed = [this] { showSynthesizer(); };
+    services().synthesizer.changed = [this] { showSynthesizer(); };
 }
 
 void frmOptions::connectAppearance() {
     lstLanguages_->DoubleClick = [this] { lstLanguages_DblClick(); };
     lstColors_->Click = [this] { lstColors_Click(); };
     connect(chkEyeBall_, &QCheckBox::toggled, this,
-            [this](bool standsOut) { host_.setCursorBorderWidth(standsOut ? 2 : 1); });
-    connect(chkTABOUT_, &QCheckBox::toggled, this, [this](bool one) { host_.setTabOneColor(one); });
-    connect(chkStats_, &QCheckBox::toggled, this, [this](bool shown) { host_.showStatistics(shown); });
+            [this](bool standsOut) { editor().setCursorBorderWidth(standsOut ? 2 : 1); });
+    connect(chkTABOUT_, &QCheckBox::toggled, this, [this](bool one) { editor().setTabOneColor(one); });
+    connect(chkStats_, &QCheckBox::toggled, this,
+            [this](bool shown) { context_.commands.views.showStatistics(shown); });
     connect(chkSplash_, &QCheckBox::toggled, this,
-            [this](bool shown) { services_.settings.SaveSetting(Section, SplashFlag, shown ? "1" : "0"); });
-    connect(Check2_, &QCheckBox::toggled, this, [this](bool on) { host_.setDebugMode(on); });
+            [this](bool shown) { services().settings.SaveSetting(Section, SplashFlag, shown ? "1" : "0"); });
+    connect(Check2_, &QCheckBox::toggled, this,
+            [this](bool on) { context_.commands.views.setDebugMode(on); });
 }
 
 void frmOptions::lstColors_Click() {
     const int row = lstColors_->currentRow();
     if (row < 0) return;
     const QRgb highlight = palette().color(QPalette::Active, QPalette::Highlight).rgb();
-    host_.setCursorColor(cursorColor(CursorColors[static_cast<std::size_t>(row)], highlight));
+    editor().setCursorColor(cursorColor(CursorColors[static_cast<std::size_t>(row)], highlight));
 }
 
 void frmOptions::chooseBank() {
     const auto file =
-        services_.files.choose({FileQuestion::Kind::Open, "Sound Banks|*.sf2;*.sf3", "sf2", {}});
+        services().files.choose({FileQuestion::Kind::Open, "Sound Banks|*.sf2;*.sf3", "sf2", {}});
     if (!file) return;
-    services_.settings.SaveSetting(Section, SoundBank, *file);
-    services_.synthesizer.useBank(*file);
+    services().settings.SaveSetting(Section, SoundBank, *file);
+    services().synthesizer.useBank(*file);
     showSynthesizer();
 }
 
 // A strummed chord in the sound of the current track.
 void frmOptions::testSound() {
-    MidiOutput& sound = host_.sound();
     for (std::size_t string = StringsPerTrack; string-- > 0;)
-        sound.NoteOn(GuitarChannel, OpenStringNotes[string] + TestFrets[string], sound.FixedVelocity);
-    host_.silenceAfter(TestMilliseconds);
+        sound().NoteOn(GuitarChannel, OpenStringNotes[string] + TestFrets[string], sound().FixedVelocity);
+    context_.bench.stopper.restart(TestMilliseconds);
 }
 
 void frmOptions::showSynthesizer() {
-    const SynthesizerState state = services_.synthesizer.state();
+    const SynthesizerState state = services().synthesizer.state();
     const QString nothing = state.loading ? loading_ : state.running ? none_ : notInUse_;
     lblSoundBank_->setText(state.bank.isEmpty() ? nothing : QFileInfo(state.bank).fileName());
     lblSoundBank_->setToolTip(state.bank);

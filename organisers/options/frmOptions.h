@@ -3,13 +3,9 @@
 // Settings take effect at once.
 #pragma once
 
-#include "forms/captions.h"
-#include "organisers/options/options_host.h"
 #include "organisers/options/options_rules.h"
 #include "platform/list_box.h"
-#include "platform/services.h"
-
-#include <QDialog>
+#include "workbench/tool_window.h"
 
 class QCheckBox;
 class QGroupBox;
@@ -20,17 +16,23 @@ class QTabWidget;
 
 namespace tabrova {
 
-enum class OptionsTab { Sound, Appearance };
+// Its tabs, as they are asked for.
+struct OptionsTab {
+    static constexpr int Sound = 0;
+    static constexpr int Appearance = 1;
+};
 
-class frmOptions : public QDialog {
+class frmOptions : public ToolWindow {
   public:
-    frmOptions(Services& services, OptionsHost& host, QWidget* parent);
+    frmOptions(const ToolContext& context, QWidget* parent);
     ~frmOptions() override;
 
     // Fills every control from the settings and the main window, and opens the stored device.
-    void Form_Load();
-    void LoadLanguage();
-    void showTab(OptionsTab tab);
+    void Form_Load() override;
+    void Form_Opened(int tab) override;
+
+  protected:
+    void takeMessage(std::string_view name, const QString& text) override;
 
   private:
     QWidget* buildSoundTab();
@@ -40,7 +42,6 @@ class frmOptions : public QDialog {
     void connectSound();
     void connectAppearance();
 
-    MessageSink messageSink();
     void listLanguages();
     void chooseStoredDevice();
     void lst_Devices_Click();
@@ -50,8 +51,6 @@ class frmOptions : public QDialog {
     void testSound();
     void showSynthesizer();
 
-    Services& services_;
-    OptionsHost& host_;
     DeviceClicks deviceClicks_;
     // What the synthesizer's labels say when there is nothing to name.
     QString loading_, none_, notInUse_;

@@ -35,9 +35,8 @@ QIcon swatch(QRgb color) {
 
 } // namespace
 
-frmOptions::frmOptions(Services& services, OptionsHost& host, QWidget* parent)
-    : QDialog(parent), services_(services), host_(host) {
-    setObjectName("frmOptions");
+frmOptions::frmOptions(const ToolContext& context, QWidget* parent)
+    : ToolWindow("frmOptions", context, parent) {
     OptionsTabs_ = named(new QTabWidget(this), "OptionsTabs");
     OptionsTabs_->addTab(buildSoundTab(), QString());
     OptionsTabs_->addTab(buildAppearanceTab(), QString());

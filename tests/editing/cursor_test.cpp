@@ -1,6 +1,6 @@
 // The cursor by key and by mouse.
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 #include <algorithm>
 
@@ -130,16 +130,16 @@ TEST_F(Cursor, TheCurrentColumnFollowsEveryKey) {
 TEST_F(Cursor, EveryMoveShowsThePositionOnTheFretboard) {
     for (const Direction direction :
          {Direction::Right, Direction::Left, Direction::Up, Direction::Down, Direction::Nowhere}) {
-        host.take();
+        window.take();
         editor.MoveCursor(direction);
-        EXPECT_EQ(host.take().back(), "refreshFretboard");
+        EXPECT_TRUE(window.take().cursor);
     }
 }
 
 TEST_F(Cursor, LeftAtTheStartStillRedrawsThePage) {
-    host.redraws = 0;
+    window.redraws = 0;
     editor.MoveCursor(Direction::Left);
-    EXPECT_EQ(host.redraws, 1);
+    EXPECT_EQ(window.redraws, 1);
 }
 
 TEST_F(Cursor, UpAndDownStopAtTheTrack) {
@@ -153,11 +153,14 @@ TEST_F(Cursor, UpAndDownStopAtTheTrack) {
 }
 
 TEST_F(Cursor, NowhereOnlyBringsTheLinesUpToDate) {
-    editor.page().nCursor.left = 500;
-    editor.page().nCursor.top = 99;
     editor.MoveCursor(Direction::Nowhere);
-    EXPECT_EQ(editor.page().vLine1, (Line{506, 0, 506, 99}));
-    EXPECT_EQ(editor.page().NoteLine.x1, 514);
+    expectAt(1, 0, 0, 0);
+    tabrova::Cursor elsewhere(document);
+    elsewhere.objects.nCursor.left = 500;
+    elsewhere.objects.nCursor.top = 99;
+    elsewhere.placeLines();
+    EXPECT_EQ(elsewhere.objects.vLine1, (Line{506, 0, 506, 99}));
+    EXPECT_EQ(elsewhere.objects.NoteLine.x1, 514);
     EXPECT_EQ(document.ColumnInStaff, 0);
 }
 
@@ -198,7 +201,7 @@ TEST_F(Cursor, EveryButtonPlacesTheCursor) {
         editor.picDocument_MouseDown(button, 22 + 29 * column, 25);
         expectAt(1, column++, 0, 0);
     }
-    EXPECT_EQ(host.selectorsOpened, 1);
+    EXPECT_EQ(window.selectorsOpened, 1);
 }
 
 TEST_F(Cursor, AClickBelowTheVisibleStavesMovesNothing) {
@@ -211,29 +214,27 @@ TEST_F(Cursor, AClickBelowTheVisibleStavesMovesNothing) {
 }
 
 TEST_F(Cursor, AClickInTheMarginAsksNothingOfTheWindow) {
-    host.take();
+    window.take();
     for (const MouseButton button : {MouseButton::Left, MouseButton::Right})
         for (const auto& [x, y] : {std::pair{21, 100}, {100, 24}, {-1, -1}})
             editor.picDocument_MouseDown(button, x, y);
-    EXPECT_TRUE(host.take().empty());
+    EXPECT_EQ(window.take(), Changes());
 }
 
 TEST_F(Cursor, ARightClickPlacesTheCursorFirst) {
-    host.take();
+    window.take();
     editor.picDocument_MouseDown(MouseButton::Right, 22 + 29 * 5, 45);
     expectAt(1, 5, 2, 0);
-    const std::vector<std::string> calls = host.take();
-    EXPECT_EQ(calls.back(), "openNoteSelector");
-    EXPECT_EQ(std::count(calls.begin(), calls.end(), "setTitle"), 1);
-    EXPECT_EQ(host.selectorPlace, (Rect{22 + 29 * 5, 45, 228, 82}));
+    EXPECT_EQ(window.take().redraws, 1);
+    EXPECT_EQ(window.selectorPlace, (Rect{22 + 29 * 5, 45, 228, 82}));
 }
 
 TEST_F(Cursor, ThePaletteFlipsOnlyWhenItsEdgePassesThePages) {
     grow(4);
     editor.picDocument_MouseDown(MouseButton::Right, 984 - 228, 472 - 82);
-    EXPECT_EQ(host.selectorPlace, (Rect{984 - 228, 472 - 82, 228, 82}));
+    EXPECT_EQ(window.selectorPlace, (Rect{984 - 228, 472 - 82, 228, 82}));
     editor.picDocument_MouseDown(MouseButton::Right, 984 - 227, 472 - 81);
-    EXPECT_EQ(host.selectorPlace, (Rect{984 - 227 - 238, 472 - 81 - 92, 228, 82}));
+    EXPECT_EQ(window.selectorPlace, (Rect{984 - 227 - 238, 472 - 81 - 92, 228, 82}));
 }
 
 TEST_F(Cursor, ThePaletteStaysShutOnPercussionTracks) {
@@ -241,7 +242,7 @@ TEST_F(Cursor, ThePaletteStaysShutOnPercussionTracks) {
     document.CurrentTrack = 3;
     editor.picDocument_MouseDown(MouseButton::Right, 22 + 29 * 5, 45);
     expectAt(1, 5, 2, 0);
-    EXPECT_EQ(host.selectorsOpened, 0);
+    EXPECT_EQ(window.selectorsOpened, 0);
 }
 
 TEST_F(Cursor, AClickInAStaffsLowerPartLandsOnStringFive) {
@@ -260,18 +261,18 @@ TEST_F(Cursor, AClickInTheMarginOrBelowTheLastStaffMovesNothing) {
 
 TEST_F(Cursor, ARightClickOpensThePaletteAlsoWhereNothingMoves) {
     editor.picDocument_MouseDown(MouseButton::Right, 100, 400);
-    EXPECT_EQ(host.selectorsOpened, 1);
+    EXPECT_EQ(window.selectorsOpened, 1);
     expectAt(1, 0, 0, 0);
-    EXPECT_EQ(host.selectorPlace, (Rect{100, 400 - 82 - 10, 228, 82})); // flipped above the pointer
+    EXPECT_EQ(window.selectorPlace, (Rect{100, 400 - 82 - 10, 228, 82})); // flipped above the pointer
     editor.picDocument_MouseDown(MouseButton::Right, 900, 50);
-    EXPECT_EQ(host.selectorPlace, (Rect{900 - 228 - 10, 50, 228, 82}));
+    EXPECT_EQ(window.selectorPlace, (Rect{900 - 228 - 10, 50, 228, 82}));
     EXPECT_EQ(document.ColumnInStaff, 30);
     for (const auto& [x, y] : {std::pair{21, 100}, {100, 24}})
         editor.picDocument_MouseDown(MouseButton::Right, x, y);
-    EXPECT_EQ(host.selectorsOpened, 2);
+    EXPECT_EQ(window.selectorsOpened, 2);
     makePercussionTrack();
     editor.picDocument_MouseDown(MouseButton::Right, 200, 50);
-    EXPECT_EQ(host.selectorsOpened, 2);
+    EXPECT_EQ(window.selectorsOpened, 2);
 }
 
 TEST_F(Cursor, ANewDocumentPutsEverythingHome) {
@@ -279,8 +280,7 @@ TEST_F(Cursor, ANewDocumentPutsEverythingHome) {
     keys({key::Down, '5'});
     editor.MakeNewDocument();
     expectAt(1, 0, 0, 0);
-    EXPECT_EQ(host.trackPanel, "Untitled Track selected (Click here to change)");
-    EXPECT_EQ(host.unloaded, 2); // once at the start of this test
+    EXPECT_EQ(texts.trackPanel, "Untitled Track selected (Click here to change)");
     EXPECT_EQ(document.StaffCount, 1);
 }
 

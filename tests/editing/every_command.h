@@ -16,33 +16,6 @@
 
 namespace tabrova::testing {
 
-// A window that shows nothing. It is too low for the fretboard, whose labels would need a font.
-class BlindHost : public EditorHost {
-  public:
-    void refreshPage() override {}
-    void refreshStrip() override {}
-    void refreshFretboard() override {}
-    void mirrorScrollBar(int, int) override {}
-    void setTitle(const std::string&) override {}
-    void setStatistics(const std::string&) override {}
-    void setTrackPanel(const std::string&) override {}
-    void UpdateTechniqueButtons(bool) override {}
-    int clientHeight() const override { return 100; }
-    QRgb inlayColor() const override { return 0; }
-    Rect pageGeometry() const override { return {0, 204, 984, 472}; }
-    Rect panelGeometry(Panel) const override { return {0, 0, 170, 62}; }
-    void openPanel(Panel, const Rect&) override {}
-    Rect noteSelectorGeometry() const override { return {0, 0, 228, 82}; }
-    void openNoteSelector(const Rect&) override {}
-    void focusPage() override {}
-    void restartSoundStopper(std::optional<int>) override {}
-    void unloadFileProperties() override {}
-    void tracksReplaced() override {}
-    bool confirmClearingOnlyStaff() override { return true; }
-    bool debugMode() const override { return false; }
-    bool playing() const override { return false; }
-};
-
 class SilentDevice : public RecordingMidiDevice {
   public:
     int midiOutShortMsg(std::uint32_t, const ShortMessage&) override { return 0; }
@@ -57,7 +30,10 @@ class NoFile : public std::streambuf {
 class EveryCommand {
   public:
     EveryCommand(Document& itsDocument, unsigned seed) : document(itsDocument), random_(seed) {
+        timers.setFrozen(true);
         document.RealtimeMode = 0;
+        around.page = {0, 204, 984, 472};
+        around.clientHeight = 100; // too low for the fretboard, whose labels would need a font
         view.picDocument.resize(200, 120);
         view.picStandardNotation.resize(20, 168);
         sound.OpenMidiDevice(MidiMapperId);
@@ -190,9 +166,13 @@ class EveryCommand {
     TabView view;
     SilentDevice device;
     MidiOutput sound{device, [](int) {}};
-    BlindHost host;
+    TimerList timers;
+    SoundStopper stopper{timers, sound, nullptr};
     LanguageWords words;
-    Editor editor{{document, view, sound, host, words}};
+    Acts acts; // nobody listens
+    ShownTexts texts;
+    Surroundings around;
+    Editor editor{{document, view, sound, stopper, words, acts, texts, around}};
     std::mt19937 random_;
 };
 

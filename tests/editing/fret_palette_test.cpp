@@ -1,7 +1,7 @@
 // The fret palette: where its highlight goes, which fret that is, and what a choice does to the cell.
 #include "editing/fret_palette.h"
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // The virtual fretboard in the editor: clicks that write and remove notes, and when it is drawn.
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 #include <algorithm>
 
@@ -17,40 +17,40 @@ class FretboardEntry : public EditorTest {
 TEST_F(FretboardEntry, ALeftClickWritesTheFretAndRedraws) {
     moveTo(1, 4);
     document.CurrentString = 2;
-    host.redraws = 0;
+    window.redraws = 0;
     editor.picFretboard_MouseDown(MouseButton::Left, 40, 12 + 15 * 7);
     EXPECT_EQ(document.note(4, 3), "7");
-    EXPECT_EQ(host.redraws, 1);
+    EXPECT_EQ(window.redraws, 1);
     EXPECT_EQ(document.CurrentString, 2);
     EXPECT_EQ(document.ColumnInStaff, 4);
     EXPECT_TRUE(device.take().empty());
-    EXPECT_EQ(host.stopperStarts, 0);
+    EXPECT_FALSE(stopperTimer().timerEnabled());
     EXPECT_EQ(neck(40, 15 * 7 + 15), CursorColor);
 }
 
 TEST_F(FretboardEntry, ARightClickEmptiesTheStringsCell) {
     document.setNote(0, 3, "9");
     document.setNote(0, 4, "9");
-    host.redraws = 0;
+    window.redraws = 0;
     editor.picFretboard_MouseDown(MouseButton::Right, 40, 300);
     EXPECT_EQ(noteOn(3), "");
     EXPECT_EQ(noteOn(4), "9");
-    EXPECT_EQ(host.redraws, 1);
+    EXPECT_EQ(window.redraws, 1);
 }
 
 TEST_F(FretboardEntry, OtherButtonsDoNothing) {
-    host.redraws = 0;
+    window.redraws = 0;
     for (const MouseButton button : {MouseButton::Middle, MouseButton::None})
         editor.picFretboard_MouseDown(button, 40, 100);
     EXPECT_EQ(noteOn(3), "");
-    EXPECT_EQ(host.redraws, 0);
+    EXPECT_EQ(window.redraws, 0);
 }
 
 TEST_F(FretboardEntry, ClicksBesideTheNeckDoNothing) {
-    host.redraws = 0;
+    window.redraws = 0;
     for (const auto& [x, y] : {std::pair{15, 100}, {75, 100}, {40, 10}, {40, 450}, {-4, -4}, {40, 100000}})
         editor.picFretboard_MouseDown(MouseButton::Left, x, y);
-    EXPECT_EQ(host.redraws, 0);
+    EXPECT_EQ(window.redraws, 0);
 }
 
 TEST_F(FretboardEntry, OnAPercussionTrackAClickDoesNothing) {
@@ -89,15 +89,14 @@ TEST_F(FretboardEntry, TheNeckFollowsEveryMoveOfTheCursor) {
 
 TEST_F(FretboardEntry, TheDotsTakeTheCursorsColor) {
     document.setNote(0, 3, "7");
-    editor.page().color = 0xFFFF8000;
-    editor.refreshdrawing();
+    editor.setCursorColor(0xFFFF8000);
     EXPECT_EQ(neck(42, 118), 0xFFFF8000);
 }
 
 TEST_F(FretboardEntry, ALowWindowKeepsTheOldImage) {
     editor.refreshdrawing();
     const QImage before = view.picFretboard.image().copy();
-    host.windowHeight = 479;
+    around.clientHeight = 479;
     document.setNote(0, 3, "7");
     document.CurrentColumn = 20;
     editor.MoveCursor(Direction::Nowhere);
@@ -107,7 +106,7 @@ TEST_F(FretboardEntry, ALowWindowKeepsTheOldImage) {
     editor.picFretboard_MouseDown(MouseButton::Left, 40, 12 + 15 * 9);
     EXPECT_EQ(noteOn(3), "9");
     EXPECT_TRUE(sameImage(view.picFretboard.image(), before, "kept_neck"));
-    host.windowHeight = 480;
+    around.clientHeight = 480;
     editor.refreshdrawing();
     EXPECT_EQ(neck(42, 148), CursorColor);
 }
@@ -122,7 +121,7 @@ TEST_F(FretboardEntry, ARedrawDrawsTheRhythmOfTheCursorsStaffOnly) {
 }
 
 TEST_F(FretboardEntry, TheNotationPassBringsTheColumnUpToDateOnGuitarTracksOnly) {
-    host.windowHeight = 100; // the neck does not do it
+    around.clientHeight = 100; // the neck does not do it
     document.CurrentColumn = 77;
     editor.refreshdrawing();
     EXPECT_EQ(document.CurrentColumn, 0);

@@ -1,6 +1,6 @@
 // Every key by shift state and kind of track.
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 namespace tabrova::testing {
 namespace {
@@ -76,17 +76,17 @@ TEST_P(KeyRows, DoExactlyTheirRow) {
         document.setNote(0, 0, "5");
         document.setTechnique(0, 0, "v");
         document.setBarMark(0, ".");
-        host.redraws = 0;
-        host.pageRefreshes = 0;
+        window.redraws = 0;
+        window.pageRefreshes = 0;
         editor.picDocument_KeyDown(each.code, shift);
         const Row* row = rowFor(each.code, shift);
-        const bool acts = row && (guitar || row->percussion);
-        EXPECT_EQ(noteHere(), acts && row->note ? row->note : "5") << each.code;
-        EXPECT_EQ(techniqueHere(), acts && row->technique ? row->technique : "v") << each.code;
-        EXPECT_EQ(markHere(), acts && row->mark ? row->mark : ".") << each.code;
+        const bool isTaken = row && (guitar || row->percussion);
+        EXPECT_EQ(noteHere(), isTaken && row->note ? row->note : "5") << each.code;
+        EXPECT_EQ(techniqueHere(), isTaken && row->technique ? row->technique : "v") << each.code;
+        EXPECT_EQ(markHere(), isTaken && row->mark ? row->mark : ".") << each.code;
         // A key that percussion ignores ends without a repaint; on a guitar track every key redraws.
-        EXPECT_EQ(host.redraws > 0, guitar || acts) << each.code;
-        EXPECT_EQ(host.pageRefreshes > 0, guitar || acts) << each.code;
+        EXPECT_EQ(window.redraws > 0, guitar || isTaken) << each.code;
+        EXPECT_EQ(window.pageRefreshes > 0, guitar || isTaken) << each.code;
     }
 }
 
@@ -111,11 +111,11 @@ TEST_F(EditorTest, ArrowsMoveOnBothKindsOfTrackUnderAnyShift) {
 }
 
 TEST_F(EditorTest, AnArrowWithinAStaffRedrawsNothing) {
-    host.redraws = 0;
+    window.redraws = 0;
     keys({key::Right, key::Down, key::Up, key::Left});
-    EXPECT_EQ(host.redraws, 0);
+    EXPECT_EQ(window.redraws, 0);
     keys({key::Left});
-    EXPECT_EQ(host.redraws, 1); // at the very start the page is redrawn though nothing moved
+    EXPECT_EQ(window.redraws, 1); // at the very start the page is redrawn though nothing moved
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What a typed note stores, draws and sounds.
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "editing/statistics_line.h"
+#include "tests/editing/fake_window.h"
 
 namespace tabrova::testing {
 namespace {
@@ -161,19 +162,21 @@ TEST_F(NoteEntry, ACellWithoutAGlyphIsLeftAsItStands) {
 
 TEST_F(NoteEntry, ATypedNoteNeitherRedrawsNorShowsNorMoves) {
     document.RealtimeMode = 1;
-    host.take();
+    window.take();
     editor.DrawAndStoreNote('5');
-    EXPECT_TRUE(host.take().empty());
+    EXPECT_EQ(window.take(), Changes());
     expectAt(1, 0, 0, 0);
 }
 
-TEST_F(NoteEntry, TheKeyHandlerRedrawsThenRepaintsThenRewritesTheLine) {
-    host.take();
+TEST_F(NoteEntry, TheKeyHandlerRedrawsOnceAndTellsPageAndTextsInOneAct) {
+    window.take();
     keys({'5'});
-    const std::vector<std::string> calls = host.take();
-    ASSERT_GE(calls.size(), 3u);
-    const std::vector<std::string> end(calls.end() - 3, calls.end());
-    EXPECT_EQ(end, (std::vector<std::string>{"setTitle", "refreshPage", "setStatistics"}));
+    const Changes told = window.take();
+    EXPECT_EQ(told.redraws, 1);
+    EXPECT_TRUE(told.page);
+    EXPECT_TRUE(told.statistics);
+    EXPECT_EQ(window.lastAct, "picDocument_KeyDown");
+    EXPECT_EQ(texts.statistics, statisticsLine(document, words));
 }
 
 TEST_F(NoteEntry, OneCodeChangesOneCell) {
@@ -342,12 +345,12 @@ TEST_F(NoteEntry, EnterReplacesARepeatAndUCanRemoveEither) {
 
 TEST_F(NoteEntry, ADrumIsStoredSoundedAndTheWholePageRedrawn) {
     makePercussionTrack();
-    host.redraws = 0;
+    window.redraws = 0;
     device.take();
     editor.DrawAndStorePercussionNote(81);
     EXPECT_EQ(noteHere(), "81");
     EXPECT_EQ(device.take(), (std::vector<ShortMessage>{{0x99, 81, 127}}));
-    EXPECT_EQ(host.redraws, 1);
+    EXPECT_EQ(window.redraws, 1);
     EXPECT_EQ(view.picDocument.image().copy(24, 26, 9, 7), view.picSource().image().copy(171, 9, 9, 7));
 }
 
@@ -368,64 +371,66 @@ TEST_F(NoteEntry, ADrumSoundsInEveryPreviewModeAndStartsNoStopper) {
         editor.DrawAndStorePercussionNote(35);
         EXPECT_EQ(device.take(), (std::vector<ShortMessage>{{0x99, 35, 127}}));
     }
-    EXPECT_EQ(host.stopper, 0);
+    EXPECT_FALSE(stopperTimer().timerEnabled());
 }
 
 TEST_F(NoteEntry, TheRepeatPanelOpensBesideTheCursorAndFlipsAtThePagesEdges) {
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.opened, Panel::Repeat);
-    EXPECT_EQ(host.panelPlace, (Rect{22 + 13 + 2, 25 + 10 + 2 + 204, 170, 62}));
+    EXPECT_EQ(window.opened, Panel::Repeat);
+    EXPECT_EQ(window.panelPlace, (Rect{22 + 13 + 2, 25 + 10 + 2 + 204, 170, 62}));
     moveTo(1, 31);
     const int right = 29 * 31 + 22 + 13 + 2;
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.panelPlace.left, right - 170);
+    EXPECT_EQ(window.panelPlace.left, right - 170);
     moveTo(3, 0);
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.panelPlace.top, 225 + 10 + 2 + 204 - 62); // 441 + 62 passes the page's height of 472
+    EXPECT_EQ(window.panelPlace.top, 225 + 10 + 2 + 204 - 62); // 441 + 62 passes the page's height of 472
 }
 
 TEST_F(NoteEntry, ThePanelFlipsOnlyWhenItsEdgePassesThePages) {
-    host.repeatPanel = {0, 0, 984 - 37, 472 - 241};
+    around.repeatPanel = {984 - 37, 472 - 241};
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.panelPlace, (Rect{37, 241, 984 - 37, 472 - 241}));
-    host.repeatPanel = {0, 0, 984 - 36, 472 - 240};
+    EXPECT_EQ(window.panelPlace, (Rect{37, 241, 984 - 37, 472 - 241}));
+    around.repeatPanel = {984 - 36, 472 - 240};
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.panelPlace, (Rect{37 - (984 - 36), 241 - (472 - 240), 984 - 36, 472 - 240}));
+    EXPECT_EQ(window.panelPlace, (Rect{37 - (984 - 36), 241 - (472 - 240), 984 - 36, 472 - 240}));
 }
 
 TEST_F(NoteEntry, ThePanelIsPlacedInTheWindow) {
-    host.page = {12, 38, 984, 472};
+    around.page = {12, 38, 984, 472};
     editor.DrawAndStoreNote(4000);
-    EXPECT_EQ(host.panelPlace, (Rect{37 + 12, 37 + 38, 170, 62}));
+    EXPECT_EQ(window.panelPlace, (Rect{37 + 12, 37 + 38, 170, 62}));
 }
 
 TEST_F(NoteEntry, OnlyItsOwnCodeOpensTheRepeatPanel) {
     for (const int code : std::initializer_list<int>{'5', 13, 46, 3000, 1001, 1015, 65})
         editor.DrawAndStoreNote(code);
-    EXPECT_EQ(host.opened, std::nullopt);
+    EXPECT_EQ(window.opened, std::nullopt);
 }
 
 TEST_F(NoteEntry, TheBendPanelOpensInTheSamePlace) {
     keys({'V', 'B'});
-    EXPECT_EQ(host.opened, Panel::Bend);
-    EXPECT_EQ(host.panelPlace, (Rect{37, 241, 170, 62}));
+    EXPECT_EQ(window.opened, Panel::Bend);
+    EXPECT_EQ(window.panelPlace, (Rect{37, 241, 170, 62}));
     EXPECT_EQ(techniqueHere(), "");
 }
 
 TEST_F(NoteEntry, TypingStartsTheStopperForTwoColumns) {
     document.RealtimeMode = 0;
     keys({'5'});
-    EXPECT_EQ(host.stopper, 250);
+    EXPECT_TRUE(stopperTimer().timerEnabled());
+    EXPECT_EQ(stopperTimer().timerInterval(), 250);
     document.Tempo = 7;
     document.RealtimeMode = 2;
     keys({'5'});
-    EXPECT_EQ(host.stopper, 17143);
+    EXPECT_EQ(stopperTimer().timerInterval(), 17143);
     // A tempo that gives no interval leaves the old one; the stopper starts all the same.
-    const int starts = host.stopperStarts;
+    stopperTimer().fire();
+    EXPECT_FALSE(stopperTimer().timerEnabled());
     document.Tempo = 0;
     keys({'5'});
-    EXPECT_EQ(host.stopper, 17143);
-    EXPECT_EQ(host.stopperStarts, starts + 1);
+    EXPECT_EQ(stopperTimer().timerInterval(), 17143);
+    EXPECT_TRUE(stopperTimer().timerEnabled());
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 #include "editing/statistics_line.h"
 
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 #include <algorithm>
 
@@ -42,31 +42,32 @@ TEST_F(StatisticsLine, TellsTheFieldsInDebugMode) {
 TEST_F(StatisticsLine, FollowsTheDebugFlag) {
     grow(3);
     moveTo(2, 0);
-    EXPECT_EQ(host.statistics, "Track 1 of 1, Staff 2 of 3");
-    host.debug = true;
+    EXPECT_EQ(texts.statistics, "Track 1 of 1, Staff 2 of 3");
+    around.debugMode = true;
     keys({key::Right, key::Down});
-    EXPECT_EQ(host.statistics, debugLine(document));
-    host.debug = false;
+    EXPECT_EQ(texts.statistics, debugLine(document));
+    around.debugMode = false;
     editor.SetDebugLabel();
-    EXPECT_EQ(host.statistics, "Track 1 of 1, Staff 2 of 3");
+    EXPECT_EQ(texts.statistics, "Track 1 of 1, Staff 2 of 3");
 }
 
 TEST_F(StatisticsLine, IsRewrittenByEveryKeyOfAGuitarTrack) {
     for (const int code : std::initializer_list<int>{key::Right, key::Down, '5', 'H', 27}) {
-        host.take();
+        window.take();
         keys({code});
-        EXPECT_EQ(host.take().back(), "setStatistics") << code;
+        EXPECT_TRUE(window.take().statistics) << code;
+        EXPECT_EQ(texts.statistics, statisticsLine(document, words)) << code;
     }
 }
 
 TEST_F(StatisticsLine, IsLeftAloneByArrowsAndIgnoredKeysOfAPercussionTrack) {
     makePercussionTrack();
     for (const int code : std::initializer_list<int>{key::Right, key::Down, key::Left, key::Up, '5', 27}) {
-        host.take();
+        window.take();
         keys({code});
-        const std::vector<std::string> calls = host.take();
-        EXPECT_EQ(std::count(calls.begin(), calls.end(), "setStatistics"), 0) << code;
-        EXPECT_EQ(std::count(calls.begin(), calls.end(), "refreshPage"), 0) << code;
+        const Changes told = window.take();
+        EXPECT_FALSE(told.statistics) << code;
+        EXPECT_FALSE(told.page) << code;
     }
 }
 

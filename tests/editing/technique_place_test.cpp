@@ -1,6 +1,6 @@
 // Storing a technique blanks its place on the page at once; the redraw behind a key puts the rest right.
 #include "editing/key_codes.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 namespace tabrova::testing {
 namespace {
@@ -18,9 +18,9 @@ class TechniquePlace : public EditorTest {
 TEST_F(TechniquePlace, IsBlankedFromTheFrameToTheNextColumn) {
     keys({key::Right, key::Down, '5', 'V'});
     const QImage drawn = view.picDocument.image().copy();
-    const int redraws = host.redraws;
+    const int redraws = window.redraws;
     editor.StoreTechnique(key::Delete);
-    EXPECT_EQ(host.redraws, redraws);
+    EXPECT_EQ(window.redraws, redraws);
     expectBlanked(drawn, {29 + 22 + 13 + 2, 25 + 10 + 1, 29 - 13, 7});
     EXPECT_NE(view.picDocument.image(), drawn);
 }

@@ -1,7 +1,7 @@
 // What each technique code stores, the bend panel's codes, and the Intelligent mode.
 #include "editing/key_codes.h"
 #include "editing/key_table.h"
-#include "tests/editing/fake_host.h"
+#include "tests/editing/fake_window.h"
 
 #include <map>
 
@@ -87,11 +87,11 @@ TEST_F(Technique, TheColumnIsTakenFromTheCursor) {
 TEST_F(Technique, MakesNoSound) {
     document.RealtimeMode = 0;
     device.take();
-    host.take();
+    window.take();
     for (const auto& [code, text] : Texts)
         editor.StoreTechnique(code);
     EXPECT_TRUE(device.take().empty());
-    EXPECT_EQ(host.stopper, 0);
+    EXPECT_FALSE(stopperTimer().timerEnabled());
 }
 
 TEST_F(Technique, IsOnThePageAfterItsKey) {
@@ -107,8 +107,8 @@ TEST_F(Technique, IsOnThePageAfterItsKey) {
 
 TEST_F(Technique, TheBendPanelOpensBesideTheCursorAndEmptiesTheCell) {
     keys({key::Right, 'V', 'B'});
-    EXPECT_EQ(host.opened, Panel::Bend);
-    EXPECT_EQ(host.panelPlace, (Rect{29 + 22 + 13 + 2, 25 + 10 + 2 + 204, 170, 62}));
+    EXPECT_EQ(window.opened, Panel::Bend);
+    EXPECT_EQ(window.panelPlace, (Rect{29 + 22 + 13 + 2, 25 + 10 + 2 + 204, 170, 62}));
     EXPECT_EQ(techniqueHere(), "");
 }
 
@@ -116,13 +116,13 @@ TEST_F(Technique, TheBendPanelFlipsAtThePagesEdges) {
     grow(4);
     moveTo(4, 31);
     keys({'B'});
-    EXPECT_EQ(host.panelPlace, (Rect{29 * 31 + 37 - 170, 325 + 12 + 204 - 62, 170, 62}));
+    EXPECT_EQ(window.panelPlace, (Rect{29 * 31 + 37 - 170, 325 + 12 + 204 - 62, 170, 62}));
 }
 
 TEST_F(Technique, OnlyItsKeyOpensTheBendPanel) {
     for (const auto& [code, text] : Texts)
         if (code != 'B') editor.StoreTechnique(code);
-    EXPECT_EQ(host.opened, std::nullopt);
+    EXPECT_EQ(window.opened, std::nullopt);
 }
 
 TEST_F(Technique, OnPercussionOnlyGhostNoteAndDoubleStrikeAct) {
@@ -133,7 +133,7 @@ TEST_F(Technique, OnPercussionOnlyGhostNoteAndDoubleStrikeAct) {
         editor.picDocument_KeyDown(code, 0);
         EXPECT_EQ(techniqueHere(), code == 'G' || code == 'K' ? text : "old") << code;
     }
-    EXPECT_EQ(host.opened, std::nullopt);
+    EXPECT_EQ(window.opened, std::nullopt);
 }
 
 TEST_F(Technique, ShiftStopsGhostNoteAndDoubleStrikeButNotTheOthers) {

@@ -1,4 +1,5 @@
 // A form's texts: the built-in ones, those of a file as far as it goes, and the kinds of controls.
+#include "core/language/language_file.h"
 #include "forms/captions.h"
 
 #include "core/language/language_lines.h"

@@ -1,4 +1,5 @@
 // Which controls belong to a form, and what each kind of control does with a text.
+#include "core/language/language_file.h"
 #include "forms/control_names.h"
 
 #include "forms/captions.h"

@@ -77,17 +77,17 @@ TEST_F(MainWindow, TheNotationCannotBeOpenedOnAPercussionTrackButClosed) {
     MainMenu& menu = window.menu();
     window.document().GuitarTrackFlags[0] = False16;
     menu.action("mnuViewNotation")->trigger();
-    EXPECT_FALSE(window.layoutOfPanels().stripShown);
+    EXPECT_FALSE(window.commands().views.layout().stripShown);
     menu.action("mnuViewNotation")->trigger();
-    EXPECT_FALSE(window.layoutOfPanels().stripShown);
+    EXPECT_FALSE(window.commands().views.layout().stripShown);
     EXPECT_FALSE(menu.isChecked("mnuViewNotation"));
 }
 
 TEST_F(MainWindow, ThePagesPixelsReachTheScreenUnchanged) {
-    window.editor().page().nCursor.left = 5000;
+    window.editor().cursor().objects.nCursor.left = 5000;
     window.editor().DrawAndStoreNote('7');
     window.editor().refreshdrawing();
-    window.editor().page().nCursor.left = 5000;
+    window.editor().cursor().objects.nCursor.left = 5000;
     auto* page = window.findChild<QWidget*>("picDocument");
     const QImage seen = page->grab().toImage().convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(seen, window.view().picDocument.image());
@@ -151,10 +151,10 @@ TEST_F(MainWindow, AnySizeOfTheWindowIsDrawnWithBothViews) {
             window.resizeClient(width, height);
             window.menu().action("mnuViewNotation")->trigger();
             window.menu().action("mnuVirtualFretboard")->trigger();
-            window.editor().page().nCursor.left = 5000;
-            window.editor().page().placeLines();
+            window.editor().cursor().objects.nCursor.left = 5000;
+            window.editor().cursor().objects.placeLines();
             if (width > 783) {
-                const int neck = window.layoutOfPanels().fretboardShown ? 89 : 0;
+                const int neck = window.commands().views.layout().fretboardShown ? 89 : 0;
                 EXPECT_EQ(window.view().picDocument.width(), width - 16 - neck);
             }
             EXPECT_TRUE(shows("picDocument", window.view().picDocument));

@@ -2,8 +2,7 @@
 // language without a clipped text.
 #include "core/language/language_lines.h"
 #include "forms/control_names.h"
-#include "shell/frmAbout.h"
-#include "shell/frmAltSplash.h"
+#include "organisers/about/frmAbout.h"
 #include "tests/shell/main_window.h"
 
 #include <QAbstractButton>
@@ -32,8 +31,7 @@ class LanguageWindows : public testing::MainWindowTest {
         trigger("mnuFileProperties");
         trigger("mnuTrackProps");
         form("frmTrackProperties")->findChild<QAbstractButton*>("Command2")->click();
-        splash = std::make_unique<frmAltSplash>(folder(), nullptr);
-        splash->show();
+        window->tools().open("frmAltSplash");
         QApplication::processEvents();
     }
 
@@ -73,8 +71,6 @@ class LanguageWindows : public testing::MainWindowTest {
                                              << " of " << widget->minimumSizeHint().width();
         }
     }
-
-    std::unique_ptr<frmAltSplash> splash;
 };
 
 TEST_F(LanguageWindows, EveryAnswerOfABoxHasItsOwnWord) {
@@ -121,7 +117,7 @@ TEST_F(LanguageWindows, EveryLineComesToItsControl) {
     EXPECT_EQ(control<QLabel>(*form("frmTrackProperties"), "lblPatchDisplay")->text(),
               "Line 412Acoustic Guitar (nylon)");
     EXPECT_EQ(control<QLabel>(*form("frmOptions"), "lblAudioOutput")->text(), "Line 457");
-    EXPECT_EQ(control<QWidget>(*splash, "imgOptions(2)")->toolTip(), "Line 418");
+    EXPECT_EQ(control<QWidget>(*form("frmAltSplash"), "imgOptions(2)")->toolTip(), "Line 418");
     EXPECT_EQ(boxes.buttonTexts[BoxAnswer::No], "Line 392");
 }
 
@@ -146,7 +142,6 @@ TEST_F(LanguageWindows, NoTextIsClippedInAnyInstalledLanguage) {
             expectNothingClipped(*form(other), name);
         QAction* last = window->menuBar()->actions().last();
         EXPECT_LE(window->menuBar()->actionGeometry(last).right(), 783) << name;
-        splash.reset();
         window.reset();
         ++languages;
     }
@@ -187,7 +182,6 @@ TEST_F(LanguageWindows, AnyFileAtAllIsNoHazard) {
         load();
         openAllWindows();
         EXPECT_EQ(window->document().StaffCount, 1);
-        splash.reset();
         window.reset();
     }
 }

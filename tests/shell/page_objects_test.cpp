@@ -19,7 +19,7 @@ class PageObjectsOnScreen : public testing::MainWindowTest {
     }
     QImage seenPage() { return seen(*window->findChild<QWidget*>("picDocument")); }
     void setLook(int borderWidth) {
-        PageObjects& objects = window->editor().page();
+        PageObjects& objects = window->editor().cursor().objects;
         objects.color = Frame;
         objects.noteLineColor = StripLine;
         objects.borderWidth = borderWidth;
@@ -73,7 +73,7 @@ TEST_F(PageObjectsOnScreen, WithoutTheStripALineRunsFromThePagesTopToTheCursor) 
         },
         "wide_frame_with_line");
     trigger("mnuViewNotation");
-    main.editor().page().color = Frame;
+    main.editor().cursor().objects.color = Frame;
     expectPage([](int x, int y) { return within(x, y, 166, 64, 180, 75) && !within(x, y, 168, 66, 178, 73); },
                "wide_frame_without_line");
 }

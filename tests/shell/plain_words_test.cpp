@@ -1,5 +1,6 @@
 // Whatever stands in a language file or a document is shown letter by letter: no word is taken for a page
 // with pictures that would have to be loaded, and none is so long that it holds the windows up.
+#include "core/text/code_page.h"
 #include "forms/code_page_text.h"
 #include "forms/plain_tool_tips.h"
 #include "tests/shell/main_window.h"

@@ -1,7 +1,7 @@
 // The windows for the properties of document and tracks, with real clicks and keys.
 #include "core/document/document_operations.h"
+#include "editing/track_texts.h"
 #include "forms/text_edges.h"
-#include "shell/properties/track_texts.h"
 #include "tests/shell/main_window.h"
 
 #include <QCheckBox>
@@ -397,7 +397,7 @@ TEST_F(PropertiesWindows, WithoutTheInstrumentFileTheListIsEmptyWithoutAWord) {
 TEST_F(PropertiesWindows, AssignedTuningsShowAtOnce) {
     load();
     openTrackProperties();
-    window->assignTuning(11, 13, 13, 13, 13, 14);
+    window->bench().tracks.assignTuning(11, 13, 13, 13, 13, 14);
     EXPECT_EQ(document().TuningTable, (std::vector<std::int16_t>{14, 13, 13, 13, 13, 11}));
     EXPECT_EQ(labelText("lblTuning"), "D A D G B F");
 }

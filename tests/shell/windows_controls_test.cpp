@@ -1,7 +1,7 @@
 // The shell's windows: where their controls stand, and what each control holds back.
 #include "forms/logo.h"
-#include "shell/frmAbout.h"
-#include "shell/properties/notes_box.h"
+#include "organisers/about/frmAbout.h"
+#include "organisers/file_properties/notes_box.h"
 #include "tests/forms/described_layout.h"
 #include "tests/shell/main_window.h"
 

@@ -1,0 +1,107 @@
+// How the main window's panels follow what an act has changed.
+#include "forms/captions.h"
+#include "forms/code_page_text.h"
+#include "forms/text_edges.h"
+#include "shell/main_panels.h"
+
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace tabrova {
+
+void MainPanels::actEnded(std::string_view, const Changes& changes) {
+    const bool playing = bench_.player.playing;
+    if (changes.playing) ToggleMenus(!playing);
+    if (changes.layout) {
+        placePanels();
+        if (playing) ToggleMenus(false);
+    }
+    if (changes.language) loadLanguage(window_, context_.services.programFolder);
+    show(changes);
+    showTexts(changes);
+    showTracks(changes);
+    if (changes.pageTakesKeyboard) page_->setFocus();
+    if (changes.fretPalette) noteSelector_->openAt(*changes.fretPalette);
+    if (changes.panel) openPanel(*changes.panel);
+}
+
+void MainPanels::show(const Changes& changes) {
+    const WindowLayout& layout = context_.commands.views.layout();
+    if (changes.scrollBar) mirrorScrollBar();
+    if (changes.strip) {
+        strip_->update();
+        client_->update(0, StripTop, client_->width(), PageTopWithStrip - StripTop);
+    }
+    // The cursor's lines follow every move.
+    if (changes.page || changes.cursor) page_->update();
+    if (changes.cursor && layout.fretboardShown) fretboard_->update();
+    if (changes.cursor && layout.stripShown) strip_->update();
+    // During playback all of them stay off.
+    if (changes.techniques && !bench_.player.playing)
+        toolbar_->UpdateTechniqueButtons(bench_.document.isGuitarTrack(bench_.document.CurrentTrack));
+}
+
+void MainPanels::showTexts(const Changes& changes) {
+    const ShownTexts& texts = bench_.texts;
+    if (changes.title) setTitleOf(window_, shownName(texts.title));
+    if (changes.statistics) lbldebug_->setText(QString::fromStdString(texts.statistics));
+    if (changes.trackPanel) statusBar_->setTrackPanel(QString::fromStdString(texts.trackPanel));
+}
+
+void MainPanels::mirrorScrollBar() {
+    const QSignalBlocker quiet(VScroll1_);
+    VScroll1_->setMaximum(editor_.scroll().maximum);
+    VScroll1_->setPageStep(std::max<int>(bench_.document.VisibleStaves, 1));
+    VScroll1_->setValue(editor_.scroll().value);
+}
+
+void MainPanels::showTracks(const Changes& changes) {
+    if (changes.tracks) trackChooser_->showTracks(bench_.document);
+    if (changes.tracks || changes.trackChosen) {
+        trackChooser_->showSelected(bench_.document.CurrentTrack - 1);
+        if (trackChooser_->isVisible()) {
+            trackChooser_->hide();
+            page_->setFocus();
+        }
+    }
+    if (!changes.trackListOpens) return;
+    placePanels();
+    trackChooser_->showSelected(bench_.document.CurrentTrack - 1);
+    trackChooser_->open();
+}
+
+// One panel at a time: it has no way out but Enter.
+void MainPanels::openPanel(const PanelOpening& opening) {
+    bendPanel_->hide();
+    repeatPanel_->hide();
+    QWidget* panel = panelWidget(opening.panel);
+    panel->move(opening.place.left, opening.place.top);
+    panel->show();
+    panel->raise();
+    page_->setEnabled(false);
+    QWidget* keyboard = opening.panel == Panel::Bend ? panel : &repeatPanel_->scroller();
+    keyboard->setFocus();
+}
+
+void MainPanels::enablePage() {
+    page_->setEnabled(!bench_.player.playing && bendPanel_->isHidden() && repeatPanel_->isHidden());
+}
+
+void MainPanels::ToggleMenus(bool enabled) {
+    page_->setEnabled(false);
+    if (enabled) enablePage();
+    fretboard_->setEnabled(enabled);
+    VScroll1_->setEnabled(enabled);
+    for (const char* name : {"mnuFile", "mnuEdit", "mnuView", "mnuStaff", "mnuNote", "mnuTrack", "mnuTools",
+                             "mnuHelp", "mnuSoundPlayAll", "mnuPlayFromHere"})
+        menu_.setEnabled(name, enabled);
+    statusBar_->setEnabled(enabled);
+    trackChooser_->setEnabled(enabled);
+    toolbar_->setAllButStopEnabled(enabled);
+    if (!enabled) return;
+    page_->setFocus();
+    toolbar_->UpdateTechniqueButtons(bench_.document.isGuitarTrack(bench_.document.CurrentTrack));
+}
+
+} // namespace tabrova

@@ -1,0 +1,32 @@
+// The table of the program's windows.
+#include "organisers/about/frmAbout.h"
+#include "organisers/file_properties/frmFileProperties.h"
+#include "organisers/instruments/frmInstrumentSelector.h"
+#include "organisers/options/frmOptions.h"
+#include "organisers/track_properties/frmTrackProperties.h"
+#include "organisers/welcome/frmAltSplash.h"
+#include "shell/tool_windows.h"
+
+namespace tabrova {
+
+namespace {
+
+template <class Window>
+ToolWindow* make(const ToolContext& context, QWidget* parent) {
+    return new Window(context, parent);
+}
+
+constexpr ToolRow ToolTable[] = {
+    {"frmOptions", "mnuToolsOptions", make<frmOptions>, Keeping::UntilTheEnd},
+    {"frmInstrumentSelector", "", make<frmInstrumentSelector>, Keeping::UntilTheEnd},
+    {"frmFileProperties", "mnuFileProperties", make<frmFileProperties>},
+    {"frmTrackProperties", "mnuTrackProps", make<frmTrackProperties>},
+    {"frmAbout", "mnuAbout", make<frmAbout>},
+    {"frmAltSplash", "", make<frmAltSplash>},
+};
+
+} // namespace
+
+std::span<const ToolRow> toolRows() { return ToolTable; }
+
+} // namespace tabrova

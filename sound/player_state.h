@@ -1,0 +1,12 @@
+// Whether the player runs, and how fast it shall.
+#pragma once
+
+namespace tabrova {
+
+struct PlayerState {
+    bool playing = false;
+    // Of the loaded document properties: playback looks at this, not at the document's field.
+    bool speedBoost = false;
+};
+
+} // namespace tabrova

@@ -1,0 +1,20 @@
+#include "workbench/commands.h"
+
+namespace tabrova {
+
+Commands::Commands(Workbench& bench, ToolOpener& tools, ColumnClock& clock, MenuState& menus)
+    : documents(bench, tools, menus), tracks(bench.tracks), properties(bench.properties),
+      playback(bench, tools, clock), views(bench, menus), structure(bench), entry(bench, menus),
+      language(bench), help(bench.services) {}
+
+void Commands::registerRows(CommandTable& table) {
+    documents.registerRows(table);
+    entry.registerRows(table);
+    structure.registerRows(table);
+    tracks.registerRows(table);
+    views.registerRows(table);
+    playback.registerRows(table);
+    help.registerRows(table);
+}
+
+} // namespace tabrova

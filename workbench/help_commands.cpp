@@ -1,0 +1,23 @@
+#include "workbench/help_commands.h"
+
+namespace tabrova {
+
+void HelpCommands::registerRows(CommandTable& table) {
+    table.item("mnuTechSupport", [this] { mnuTechSupport(); });
+    table.item("mnuNewVersionCheck", [this] { mnuNewVersionCheck(); });
+    table.wordOfItem("tr3", "mnuNewVersionCheck");
+}
+
+void HelpCommands::mnuTechSupport() {
+    openSettingAddress("SupportAddress", "mailto:support@tabrova.invalid");
+}
+
+void HelpCommands::mnuNewVersionCheck() {
+    openSettingAddress("UpdatePage", "https://tabrova.invalid/update");
+}
+
+void HelpCommands::openSettingAddress(const QString& key, const QString& otherwise) {
+    services_.addresses.open(services_.settings.GetSetting("Installation", key, otherwise));
+}
+
+} // namespace tabrova
