@@ -12,7 +12,7 @@ namespace tabrova {
 frmMain::frmMain(Services& services)
     : services_(services), bench_(services, this), menu_(*menuBar()),
       clock_(services.timerService, services.timers, this, [this] { commands_.playback.HiTime1_Timer(); }),
-      tools_(bench_.acts, context_, *this),
+      tools_(context_, *this),
       commands_(bench_, tools_, clock_, menu_), context_{bench_, services_, bench_.words, commands_, tools_},
       panels_(context_, menu_, table_, *this), program_(context_, menu_) {
     setObjectName("frmMain");

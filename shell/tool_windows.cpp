@@ -6,15 +6,10 @@
 
 namespace tabrova {
 
-ToolWindows::ToolWindows(Acts& acts, const ToolContext& context, QWidget& main, std::span<const ToolRow> rows)
-    : acts_(acts), context_(context), main_(main), rows_(rows) {
-    acts_.add(*this);
-}
+ToolWindows::ToolWindows(const ToolContext& context, QWidget& main, std::span<const ToolRow> rows)
+    : context_(context), main_(main), rows_(rows) {}
 
-ToolWindows::~ToolWindows() {
-    acts_.remove(*this);
-    deleteAll();
-}
+ToolWindows::~ToolWindows() { deleteAll(); }
 
 void ToolWindows::deleteAll() {
     while (!loaded_.empty()) {
@@ -75,7 +70,6 @@ ToolWindow* ToolWindows::takeOut(std::string_view form) {
     ToolWindow* taken = window(form);
     if (!taken) return nullptr;
     std::erase_if(loaded_, [taken](const Loaded& each) { return each.window == taken; });
-    taken->closed = nullptr;
     taken->Form_Unload();
     return taken;
 }
@@ -97,12 +91,6 @@ void ToolWindows::unloadAll() {
 
 void ToolWindows::windowClosed(const ToolRow& row) {
     if (row.keeping == Keeping::UntilClosed) unload(row.form);
-}
-
-void ToolWindows::actEnded(std::string_view, const Changes& changes) {
-    if (!changes.language) return;
-    for (const Loaded& each : loaded_)
-        each.window->LoadLanguage();
 }
 
 } // namespace tabrova

@@ -1,5 +1,5 @@
-// The program's windows besides the main one: one table, a row a window. All of them are loaded, shown, given
-// the language and unloaded by one rule.
+// The program's windows besides the main one: one table, a row a window. All of them are loaded, shown and
+// unloaded by one rule. The language that a window has is that of its loading.
 #pragma once
 
 #include "workbench/tool_window.h"
@@ -23,12 +23,11 @@ struct ToolRow {
 // The table. A new window is a row here.
 std::span<const ToolRow> toolRows();
 
-class ToolWindows : public ToolOpener, private ActObserver {
+class ToolWindows : public ToolOpener {
   public:
     // The windows are children of `main`.
     // They are made with `context`, which may be put together later.
-    ToolWindows(Acts& acts, const ToolContext& context, QWidget& main,
-                std::span<const ToolRow> rows = toolRows());
+    ToolWindows(const ToolContext& context, QWidget& main, std::span<const ToolRow> rows = toolRows());
     ~ToolWindows() override;
 
     void registerRows(CommandTable& table);
@@ -57,13 +56,10 @@ class ToolWindows : public ToolOpener, private ActObserver {
         ToolWindow* window;
     };
 
-    // A change of the language reaches every loaded window.
-    void actEnded(std::string_view act, const Changes& changes) override;
     const ToolRow* rowOf(std::string_view form) const;
     ToolWindow* takeOut(std::string_view form);
     void windowClosed(const ToolRow& row);
 
-    Acts& acts_;
     const ToolContext& context_;
     QWidget& main_;
     std::span<const ToolRow> rows_;

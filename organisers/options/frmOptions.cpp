@@ -82,8 +82,9 @@ void frmOptions::lstLanguages_DblClick() {
     const std::filesystem::path active = activeLanguageFile(services().programFolder);
     std::filesystem::remove(active, failed);
     copyTextFile(installedLanguages(services().programFolder) / pathOf(row->text()) / "lang.trl", active);
-    context_.commands.language.languageApplied();
+    LoadLanguage();
     showSynthesizer();
+    context_.commands.language.languageApplied();
 }
 
 // A position that is not there any more leaves nothing chosen: what is sent is dropped until the user

@@ -43,18 +43,7 @@ class OptionsControls : public testing::ToolBench {
     }
     QTabWidget& tabs() { return at<QTabWidget>("OptionsTabs"); }
 
-    // The windows' table gives a new language to the windows.
-    struct LanguageGiver : ActObserver {
-        explicit LanguageGiver(OptionsControls& itsTest) : test(itsTest) { test.bench.acts.add(*this); }
-        ~LanguageGiver() override { test.bench.acts.remove(*this); }
-        void actEnded(std::string_view, const Changes& changes) override {
-            if (changes.language) test.form.LoadLanguage();
-        }
-        OptionsControls& test;
-    };
-
     frmOptions form{context, nullptr};
-    LanguageGiver giver{*this};
 };
 
 TEST_F(OptionsControls, StandOnTwoTabsInAWindowOf480By470) {
