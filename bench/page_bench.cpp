@@ -50,14 +50,27 @@ struct Program {
     DesktopMessageBoxes boxes;
     DesktopFileChooser files;
     DesktopAddressOpener addresses;
+    DesktopSystemInformation systemInformation;
     MemorySettingsStore settings;
     DesktopTextPrinter printer;
     RecordingMidiDevice midi;
     SystemTimerService timerService;
     TimerList timers;
+    SystemRandomness randomness;
     RecordingSynthesizer synthesizer;
-    Services services{boxes,       files, addresses,           settings, printer, midi, timerService, timers,
-                      synthesizer, {},    [] { std::abort(); }};
+    Services services{boxes,
+                      files,
+                      addresses,
+                      systemInformation,
+                      settings,
+                      printer,
+                      midi,
+                      timerService,
+                      timers,
+                      synthesizer,
+                      randomness,
+                      {},
+                      [] { std::abort(); }};
     frmMain window{services};
 
     Program() {

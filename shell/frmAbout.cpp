@@ -52,7 +52,7 @@ frmAbout::frmAbout(Services& services, QWidget* parent) : QDialog(parent), servi
 }
 
 void frmAbout::startSystemInformationTool() {
-    if (startSystemInformation()) return;
+    if (services_.systemInformation.start()) return;
     services_.boxes.ask({windowTitle(), "System Information Is Unavailable At This Time", BoxIcon::None});
 }
 

@@ -8,7 +8,6 @@
 #include "sound/pitch.h"
 
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QVBoxLayout>
 
 namespace tabrova {
@@ -87,8 +86,7 @@ void frmInstrumentSelector::lst_Instrument_Click() {
 }
 
 void frmInstrumentSelector::sample() {
-    const int note =
-        static_cast<int>(QRandomGenerator::global()->generateDouble() * SampleRange) + LowestSample;
+    const int note = static_cast<int>(services_.randomness.fraction() * SampleRange) + LowestSample;
     MidiOutput& sound = host_.sound();
     sound.AllNotesOff();
     sound.NoteOn(GuitarChannel, note, sound.FixedVelocity);
