@@ -11,7 +11,6 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTabWidget>
 
 namespace tabrova {

@@ -79,8 +79,6 @@ void frmMain::showOptions(OptionsTab tab) {
     options_->activateWindow();
 }
 
-void frmMain::showFrmHelp() { menu_->action("mnuHelpContents")->trigger(); }
-
 // The list of drums, when there is a window for it, on a percussion track.
 void frmMain::showFrmPercussion() {}
 

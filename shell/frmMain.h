@@ -143,7 +143,6 @@ class frmMain : public QMainWindow, private EditorHost, private OptionsHost, pri
     void StartPlayback(int interval);
     void StopTimer();
     void HiTime1_Timer();
-    void showFrmHelp();
     void showFrmFileProperties();
     void showFrmPercussion();
     void connectViews();

@@ -33,7 +33,6 @@ struct PageObjects {
     Line vLine1;                    // on the page, from its top to the cursor
     Line NoteLine = {0, 0, 0, 168}; // on the strip, 8 to the right of vLine1
     bool vLine1Visible = true;
-    bool NoteLineVisible = true;
     QRgb color = CursorColor; // border of nCursor and vLine1
     QRgb noteLineColor = CursorColor;
     int borderWidth = 1;

@@ -20,7 +20,7 @@ std::vector<SpriteCopy> stripBackground(int pageWidth);
 struct RulerTick {
     int x;
     int whiteX;
-    bool onBeat; // every fourth column: black instead of the quiet colour
+    bool onBeat; // every fourth column: black instead of the quiet color
 };
 std::vector<RulerTick> beatRuler(int columnWidth);
 

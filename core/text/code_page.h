@@ -17,7 +17,4 @@ std::optional<unsigned char> byteOf(char32_t codePoint);
 // UTF-8 of the bytes.
 std::string utf8FromCodePage(std::string_view bytes);
 
-// A character that the page does not hold, or a malformed sequence, gives std::nullopt.
-std::optional<std::string> codePageFromUtf8(std::string_view utf8);
-
 } // namespace tabrova

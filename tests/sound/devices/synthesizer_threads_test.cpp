@@ -3,7 +3,6 @@
 #include "sound/devices/system_midi_device.h"
 
 #include <QCoreApplication>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
