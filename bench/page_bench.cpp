@@ -113,7 +113,7 @@ void NotationPass(benchmark::State& state) {
                 document.setNote(column, string, "");
     TabView view;
     view.picDocument.resize(PageWidth, PageHeight);
-    view.picStandardNotation.resize(PageWidth, 168);
+    view.picStandardNotation.resize(PageWidth, StripHeight);
     document.ColumnWidth = columnWidth(PageWidth);
     measureAgainstCopy(state, [&] { view.DrawNotationAndRhythm(document); });
 }
