@@ -43,6 +43,7 @@ bool run(int argc, char** argv, int& code) {
     tabrova::DesktopMessageBoxes boxes;
     tabrova::DesktopFileChooser files;
     tabrova::DesktopAddressOpener addresses;
+    tabrova::DesktopSystemInformation systemInformation;
     tabrova::keepToolkitInsideHome();
     tabrova::DesktopSettingsStore settings;
     tabrova::DesktopTextPrinter printer;
@@ -51,10 +52,20 @@ bool run(int argc, char** argv, int& code) {
     tabrova::SystemMidiDevice midi(synthesizer);
     tabrova::SystemTimerService timerService;
     tabrova::TimerList timers;
-    tabrova::Services services{
-        boxes, files, addresses, settings, printer, midi, timerService, timers, synthesizer, folder, [] {
-            std::_Exit(1);
-        }};
+    tabrova::SystemRandomness randomness;
+    tabrova::Services services{boxes,
+                               files,
+                               addresses,
+                               systemInformation,
+                               settings,
+                               printer,
+                               midi,
+                               timerService,
+                               timers,
+                               synthesizer,
+                               randomness,
+                               folder,
+                               [] { std::_Exit(1); }};
     tabrova::frmMain window(services);
     const tabrova::SessionEnd session([&window] { return window.commands().documents.confirmLeaving(); });
     window.resizeClient(1000, 700);

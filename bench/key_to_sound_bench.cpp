@@ -24,14 +24,27 @@ struct Program {
     DesktopMessageBoxes boxes;
     DesktopFileChooser files;
     DesktopAddressOpener addresses;
+    DesktopSystemInformation systemInformation;
     MemorySettingsStore settings;
     DesktopTextPrinter printer;
     FluidSynthesizer synthesizer{{{}, {}, {}, systemBankFolders()}};
     SystemMidiDevice midi{synthesizer};
     SystemTimerService timerService;
     TimerList timers;
-    Services services{boxes,       files, addresses,           settings, printer, midi, timerService, timers,
-                      synthesizer, {},    [] { std::abort(); }};
+    SystemRandomness randomness;
+    Services services{boxes,
+                      files,
+                      addresses,
+                      systemInformation,
+                      settings,
+                      printer,
+                      midi,
+                      timerService,
+                      timers,
+                      synthesizer,
+                      randomness,
+                      {},
+                      [] { std::abort(); }};
     frmMain window{services};
 
     Program() {

@@ -50,14 +50,27 @@ struct Program {
     DesktopMessageBoxes boxes;
     DesktopFileChooser files;
     DesktopAddressOpener addresses;
+    DesktopSystemInformation systemInformation;
     MemorySettingsStore settings;
     DesktopTextPrinter printer;
     RecordingMidiDevice midi;
     SystemTimerService timerService;
     TimerList timers;
+    SystemRandomness randomness;
     RecordingSynthesizer synthesizer;
-    Services services{boxes,       files, addresses,           settings, printer, midi, timerService, timers,
-                      synthesizer, {},    [] { std::abort(); }};
+    Services services{boxes,
+                      files,
+                      addresses,
+                      systemInformation,
+                      settings,
+                      printer,
+                      midi,
+                      timerService,
+                      timers,
+                      synthesizer,
+                      randomness,
+                      {},
+                      [] { std::abort(); }};
     frmMain window{services};
 
     Program() {
@@ -100,7 +113,7 @@ void NotationPass(benchmark::State& state) {
                 document.setNote(column, string, "");
     TabView view;
     view.picDocument.resize(PageWidth, PageHeight);
-    view.picStandardNotation.resize(PageWidth, 168);
+    view.picStandardNotation.resize(PageWidth, StripHeight);
     document.ColumnWidth = columnWidth(PageWidth);
     measureAgainstCopy(state, [&] { view.DrawNotationAndRhythm(document); });
 }

@@ -5,6 +5,7 @@
 #include "editing/key_codes.h"
 #include "sound/column_preview.h"
 #include "sound/pitch.h"
+#include "tabview/page_layout.h"
 #include "tabview/page_marks.h"
 
 namespace tabrova {
@@ -68,28 +69,13 @@ void Editor::CreateAndStorePChord() {
 
 void Editor::drawTypedCell() {
     const std::string_view text = document_.note(document_.CurrentColumn, document_.cursorRow());
-    const auto glyph = text.empty() ? std::optional<Rect>(sprite::BlankCell) : noteGlyph(text);
-    if (!glyph) return;
-    view_.copyToPage({{page().nCursor.left + 2, page().nCursor.top + 1, glyph->width, glyph->height},
-                      *glyph,
-                      Raster::SrcCopy});
+    if (const auto copy = typedCell(text, page().nCursor)) view_.copyToPage(*copy);
 }
 
-// "." and "r" deliberately stand 8 pixels left of where the next redraw puts them.
 void Editor::drawTypedBarMark() {
     const std::string_view mark = document_.barMark(document_.CurrentColumn);
-    const int left = page().nCursor.left;
-    const int top = page().nCursor.top - StringSpacing * document_.CurrentString;
-    const auto draw = [this](const Rect& source, int x, int y) {
-        view_.copyToPage({{x, y, source.width, source.height}, source, Raster::SrcAnd});
-    };
-    if (mark == ".") draw(sprite::BarLine, left - 14, top);
-    if (mark == "r") draw(sprite::OpenedRepeat, left - 22, top);
-    if (const auto count = closedRepeatCount(mark)) {
-        draw(sprite::ClosedRepeat, left - 10, top);
-        draw(sprite::RepeatTimes, left - 16, top - 8);
-        draw(repeatCountGlyph(*count), left - 8, top - 8);
-    }
+    for (const SpriteCopy& copy : typedBarMark(mark, page().nCursor, document_.CurrentString))
+        view_.copyToPage(copy);
 }
 
 void Editor::soundColumn() {

@@ -10,7 +10,6 @@
 #include <QHash>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QTabWidget>
 
 namespace tabrova {

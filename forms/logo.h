@@ -1,4 +1,4 @@
-// `imgLogo`, the program's logo as the windows show it: six strings and the name, in the theme's colours.
+// `imgLogo`, the program's logo as the windows show it: six strings and the name, in the theme's colors.
 #pragma once
 
 #include <QWidget>

@@ -1,4 +1,4 @@
-// Opens a web or mail address in the user's own programs, and the desktop's system information tool.
+// Opens a web or mail address in the user's own programs.
 #pragma once
 
 #include <QStringList>
@@ -27,8 +27,5 @@ class RecordingAddressOpener : public AddressOpener {
   private:
     QStringList opened_;
 };
-
-// False if the desktop has no such tool or it did not start.
-bool startSystemInformation();
 
 } // namespace tabrova

@@ -6,7 +6,6 @@
 
 #include <deque>
 #include <map>
-#include <optional>
 
 namespace tabrova {
 

@@ -1,5 +1,5 @@
 // All services as the driver and the tests have them: they keep what is asked of them and reach for nothing
-// outside.
+// outside. Time goes on as it does, and chance is real unless numbers are given.
 #pragma once
 
 #include "platform/services.h"
@@ -12,9 +12,11 @@ struct RecordingServices {
     RecordingMessageBoxes boxes;
     RecordingFileChooser files;
     RecordingAddressOpener addresses;
+    RecordingSystemInformation systemInformation;
     RecordingTextPrinter printer;
     RecordingMidiDevice midi;
     RecordingSynthesizer synthesizer;
+    GivenRandomness randomness;
     SystemTimerService timerService;
     TimerList timers;
     std::unique_ptr<SettingsStore> settings = std::make_unique<MemorySettingsStore>();
@@ -23,12 +25,14 @@ struct RecordingServices {
         return Services{boxes,
                         files,
                         addresses,
+                        systemInformation,
                         *settings,
                         printer,
                         midi,
                         timerService,
                         timers,
                         synthesizer,
+                        randomness,
                         folder,
                         std::move(endProgram)};
     }

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <functional>
+#include <utility>
 
 namespace tabrova {
 
@@ -23,8 +24,18 @@ class Synthesizer {
     // Takes this sound bank (SF2 or SF3) from now on; "" goes back to the one found by itself. The bank loads
     // in the background.
     virtual void useBank(const QString& file) = 0;
-    // Called on the user-interface thread whenever the state has changed.
-    std::function<void()> changed;
+    // Calls this, on the user-interface thread, whenever the state has changed; null ends it. There is one at
+    // a time.
+    void onChange(std::function<void()> told) { changed_ = std::move(told); }
+
+  protected:
+    void tellChange() const {
+        if (changed_) changed_();
+    }
+    bool isHeard() const { return changed_ != nullptr; }
+
+  private:
+    std::function<void()> changed_;
 };
 
 // Sounds nothing: keeps what it was asked and tells what it was given.
@@ -33,8 +44,10 @@ class RecordingSynthesizer : public Synthesizer {
     SynthesizerState state() const override { return told; }
     void useBank(const QString& file) override {
         told.bank = file;
-        if (changed) changed();
+        tellChange();
     }
+    using Synthesizer::isHeard;
+    using Synthesizer::tellChange;
     SynthesizerState told;
 };
 

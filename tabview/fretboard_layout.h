@@ -47,7 +47,7 @@ struct NeckPlace {
 // the neck.
 std::optional<NeckPlace> neckPlaceAt(int x, int y, int pitch);
 
-// The inlays' colour from one that the theme gives: as quiet as must be to differ from paper and lines.
+// The inlays' color from one that the theme gives: as quiet as must be to differ from paper and lines.
 QRgb quietInlayColor(QRgb themeColor);
 
 } // namespace tabrova

@@ -16,6 +16,7 @@ constexpr int CursorLeft = 22;
 constexpr int CursorTop = 25;
 constexpr int CursorWidth = 13;
 constexpr int CursorHeight = 10;
+constexpr int StripHeight = 168;      // the notation strip's
 constexpr int LineSpacingMargin = 60; // pixels of the page's width that are margins
 
 constexpr QRgb PaperColor = 0xFFFFFEF2;
@@ -30,10 +31,9 @@ std::int16_t columnWidth(int pageWidth);
 // Retained objects over the page and the strip: moving them needs no redraw.
 struct PageObjects {
     Rect nCursor = {CursorLeft, CursorTop, CursorWidth, CursorHeight};
-    Line vLine1;                    // on the page, from its top to the cursor
-    Line NoteLine = {0, 0, 0, 168}; // on the strip, 8 to the right of vLine1
+    Line vLine1;                            // on the page, from its top to the cursor
+    Line NoteLine = {0, 0, 0, StripHeight}; // on the strip, 8 to the right of vLine1
     bool vLine1Visible = true;
-    bool NoteLineVisible = true;
     QRgb color = CursorColor; // border of nCursor and vLine1
     QRgb noteLineColor = CursorColor;
     int borderWidth = 1;

@@ -72,6 +72,14 @@ int layoutPage(std::vector<SpriteCopy>& copies, const Document& document, int pa
     return slot;
 }
 
+std::optional<SpriteCopy> typedCell(std::string_view text, const Rect& cursor) {
+    const auto glyph = text.empty() ? std::optional<Rect>(sprite::BlankCell) : noteGlyph(text);
+    if (!glyph) return std::nullopt;
+    const int left = cursor.left + (CellLeft - CursorLeft);
+    const int top = cursor.top + (CellTop - CursorTop);
+    return SpriteCopy{{left, top, glyph->width, glyph->height}, *glyph, Raster::SrcCopy};
+}
+
 std::vector<SpriteCopy> stripBackground(int pageWidth) {
     constexpr int Top = 30;
     return {

@@ -4,6 +4,7 @@
 #include "core/document/document.h"
 #include "tabview/sprites.h"
 
+#include <optional>
 #include <vector>
 
 namespace tabrova {
@@ -13,6 +14,10 @@ namespace tabrova {
 // rearranged. Returns PageRow, the number of staves drawn; `copies` is emptied first.
 int layoutPage(std::vector<SpriteCopy>& copies, const Document& document, int pageWidth);
 
+// The copy of one cell as it is drawn at once when its text is typed, over the paper if the text is empty and
+// none if it is no note's. `cursor` is the cell's frame.
+std::optional<SpriteCopy> typedCell(std::string_view text, const Rect& cursor);
+
 // The two copies of the notation strip's empty staves.
 std::vector<SpriteCopy> stripBackground(int pageWidth);
 
@@ -20,7 +25,7 @@ std::vector<SpriteCopy> stripBackground(int pageWidth);
 struct RulerTick {
     int x;
     int whiteX;
-    bool onBeat; // every fourth column: black instead of the quiet colour
+    bool onBeat; // every fourth column: black instead of the quiet color
 };
 std::vector<RulerTick> beatRuler(int columnWidth);
 

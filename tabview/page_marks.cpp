@@ -8,8 +8,7 @@ namespace tabrova {
 
 namespace {
 
-constexpr int MarkTop = 25;
-constexpr int CountTop = 17;
+constexpr int TypedShift = 8;
 constexpr int LongestReach = 9;
 
 // How wide a mark is drawn: as its sprite, up to the next column, or as far as an arc reaches.
@@ -77,23 +76,35 @@ int widthOf(const TechniqueSprite& mark, const Document& document, const MarkPla
     return mark.source.width;
 }
 
+// Beside the frame that the cursor has on the column's first string. `shift` moves the marks of one sprite to
+// the left.
+void addBarMarkAt(std::vector<SpriteCopy>& copies, std::string_view mark, int frameLeft, int frameTop,
+                  int shift) {
+    const auto add = [&](const Rect& source, int left, int top) {
+        copies.push_back(
+            {{frameLeft + left, frameTop + top, source.width, source.height}, source, Raster::SrcAnd});
+    };
+    if (mark == ".") add(sprite::BarLine, -6 - shift, 0);
+    if (mark == "r") add(sprite::OpenedRepeat, -14 - shift, 0);
+    if (const auto count = closedRepeatCount(mark)) {
+        add(sprite::ClosedRepeat, -10, 0);
+        add(sprite::RepeatTimes, -16, -8);
+        add(repeatCountGlyph(*count), -8, -8);
+    }
+}
+
 } // namespace
 
 void addBarMark(std::vector<SpriteCopy>& copies, std::string_view mark, int slot, int column,
                 int columnWidth) {
     if (mark.empty()) return;
-    const int left = columnWidth * column;
-    const int top = SlotHeight * slot;
-    const auto add = [&copies](const Rect& source, int x, int y) {
-        copies.push_back({{x, y, source.width, source.height}, source, Raster::SrcAnd});
-    };
-    if (mark == ".") add(sprite::BarLine, left + 16, top + MarkTop);
-    if (mark == "r") add(sprite::OpenedRepeat, left + 8, top + MarkTop);
-    if (const auto count = closedRepeatCount(mark)) {
-        add(sprite::ClosedRepeat, left + 12, top + MarkTop);
-        add(sprite::RepeatTimes, left + 6, top + CountTop);
-        add(repeatCountGlyph(*count), left + 14, top + CountTop);
-    }
+    addBarMarkAt(copies, mark, columnWidth * column + CursorLeft, SlotHeight * slot + CursorTop, 0);
+}
+
+std::vector<SpriteCopy> typedBarMark(std::string_view mark, const Rect& cursor, int string) {
+    std::vector<SpriteCopy> copies;
+    addBarMarkAt(copies, mark, cursor.left, cursor.top - StringSpacing * string, TypedShift);
+    return copies;
 }
 
 void addTechniqueMark(std::vector<SpriteCopy>& copies, const Document& document, const MarkPlace& place) {

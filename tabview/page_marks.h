@@ -13,6 +13,11 @@ namespace tabrova {
 void addBarMark(std::vector<SpriteCopy>& copies, std::string_view mark, int slot, int column,
                 int columnWidth);
 
+// The copies of the bar mark of the cursor's column as they are drawn at once when it is typed. `cursor` is
+// the frame of the cell on the string `string`. "." and "r" deliberately stand 8 pixels left of where the
+// next redraw puts them.
+std::vector<SpriteCopy> typedBarMark(std::string_view mark, const Rect& cursor, int string);
+
 struct MarkPlace {
     int slot; // row on the page
     int columnInStaff;

@@ -9,7 +9,6 @@ namespace tabrova {
 
 namespace {
 
-constexpr int StripHeight = 168;
 constexpr QRgb StemColor = 0xFF000000;
 
 } // namespace

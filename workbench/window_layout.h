@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tabview/fretboard_layout.h"
+#include "tabview/page_geometry.h"
 
 namespace tabrova {
 
@@ -9,7 +10,6 @@ constexpr int NarrowestFollowedWidth = 783; // up to this width the page keeps i
 constexpr int PageTopWithStrip = 204;
 constexpr int PageTopWithoutStrip = 38;
 constexpr int StripTop = 24;
-constexpr int StripHeight = 168;
 constexpr int ScrollBarWidth = 16;
 constexpr int StatusBarHeight = 24;
 constexpr int TrackChooserHeight = 200;

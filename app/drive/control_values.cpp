@@ -17,7 +17,6 @@
 #include <QProgressBar>
 #include <QSpinBox>
 #include <QTabWidget>
-#include <QTest>
 #include <QTextEdit>
 
 namespace tabrova {

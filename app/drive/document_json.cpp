@@ -114,10 +114,13 @@ QJsonObject pageJson(frmMain& window) {
     const PageObjects& objects = window.editor().page();
     const ScrollState& scroll = window.editor().scroll();
     QJsonObject json = {
-        {"nCursor", rectJson(objects.nCursor)},         {"nCursorWidth", objects.borderWidth},
-        {"nCursorColor", QColor(objects.color).name()}, {"vLine1", lineJson(objects.vLine1)},
-        {"NoteLine", lineJson(objects.NoteLine)},       {"vLine1Visible", objects.vLine1Visible},
-        {"NoteLineVisible", objects.NoteLineVisible},
+        {"nCursor", rectJson(objects.nCursor)},
+        {"nCursorWidth", objects.borderWidth},
+        {"nCursorColor", QColor(objects.color).name()},
+        {"vLine1", lineJson(objects.vLine1)},
+        {"NoteLine", lineJson(objects.NoteLine)},
+        {"vLine1Visible", objects.vLine1Visible},
+        {"NoteLineVisible", true}, // always there
     };
     for (const char* name : {"picDocument", "picStandardNotation", "picFretboard", "VScroll1",
                              "picTrackChooser", "picBend", "picRepeat", "picNoteSelector"})

@@ -3,7 +3,6 @@
 #include "app/drive/control_finder.h"
 #include "app/drive/control_values.h"
 #include "app/drive/document_json.h"
-#include "app/drive/input_events.h"
 #include "app/drive/word_splitter.h"
 #include "shell/frmMain.h"
 
@@ -112,7 +111,7 @@ QJsonObject Driver::mouse(const QStringList& words) {
     if (!found.widget) return found.failure;
     const auto command = mouseCommand(words.mid(2));
     if (!command) return error("CONTROL [X Y] [left|right|middle]");
-    actWithMouse(found.widget, acts.value(words[0]), *command);
+    mouse_.act(found.widget, acts.value(words[0]), *command);
     return Ok;
 }
 

@@ -1,13 +1,12 @@
 // Carries out the driver's commands on the real program, one line in and one line of JSON out.
 #pragma once
 
+#include "app/drive/input_events.h"
 #include "platform/recording_services.h"
 
 #include <QHash>
 #include <QJsonObject>
 #include <QStringList>
-
-#include <functional>
 
 namespace tabrova {
 
@@ -53,6 +52,7 @@ class Driver {
 
     frmMain& window_;
     RecordingServices& recording_;
+    Mouse mouse_;
     QHash<QString, Handler> handlers_;
     bool ended_ = false;
 };

@@ -38,24 +38,6 @@ QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     return modifiers & Qt::ShiftModifier ? capital : capital.toLower();
 }
 
-// Which keys are held between two events.
-Qt::MouseButtons heldButtons = Qt::NoButton;
-
-void sendMouse(QWidget* widget, QEvent::Type type, Qt::MouseButton button, const QPoint& at) {
-    QMouseEvent event(type, at, widget->mapToGlobal(at), button, heldButtons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
-void press(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
-    heldButtons |= button;
-    QTest::mousePress(widget, button, Qt::NoModifier, at);
-}
-
-void release(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
-    heldButtons &= ~button;
-    QTest::mouseRelease(widget, button, Qt::NoModifier, at);
-}
-
 } // namespace
 
 bool pressKey(QWidget* widget, const QString& keyName) {
@@ -97,7 +79,22 @@ std::optional<MouseCommand> mouseCommand(const QStringList& words) {
     return command;
 }
 
-void actWithMouse(QWidget* control, MouseAct act, const MouseCommand& command) {
+void Mouse::send(QWidget* widget, QEvent::Type type, Qt::MouseButton button, const QPoint& at) const {
+    QMouseEvent event(type, at, widget->mapToGlobal(at), button, held_, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+void Mouse::press(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
+    held_ |= button;
+    QTest::mousePress(widget, button, Qt::NoModifier, at);
+}
+
+void Mouse::release(QWidget* widget, Qt::MouseButton button, const QPoint& at) {
+    held_ &= ~button;
+    QTest::mouseRelease(widget, button, Qt::NoModifier, at);
+}
+
+void Mouse::act(QWidget* control, MouseAct what, const MouseCommand& command) {
     QPoint at = command.position.value_or(control->rect().center());
     QWidget* widget = control;
     // The rows of a list and the lines of a text stand in a widget inside the control's frame.
@@ -105,7 +102,7 @@ void actWithMouse(QWidget* control, MouseAct act, const MouseCommand& command) {
         widget = area->viewport();
         at = widget->mapFrom(control, at);
     }
-    switch (act) {
+    switch (what) {
     case MouseAct::Click:
         press(widget, command.button, at);
         release(widget, command.button, at);
@@ -117,10 +114,10 @@ void actWithMouse(QWidget* control, MouseAct act, const MouseCommand& command) {
         release(widget, command.button, at);
         break;
     case MouseAct::Move:
-        sendMouse(widget, QEvent::MouseMove, Qt::NoButton, at);
+        send(widget, QEvent::MouseMove, Qt::NoButton, at);
         break;
     case MouseAct::DoubleClick:
-        if (widget->isEnabled()) sendMouse(widget, QEvent::MouseButtonDblClick, command.button, at);
+        if (widget->isEnabled()) send(widget, QEvent::MouseButtonDblClick, command.button, at);
         break;
     }
 }

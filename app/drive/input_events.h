@@ -1,6 +1,7 @@
 // Keys and mouse events as a person would make them.
 #pragma once
 
+#include <QEvent>
 #include <QString>
 #include <QStringList>
 #include <QWidget>
@@ -24,6 +25,18 @@ struct MouseCommand {
 
 // From the words behind the control's name; std::nullopt for words that do not fit.
 std::optional<MouseCommand> mouseCommand(const QStringList& words);
-void actWithMouse(QWidget* widget, MouseAct act, const MouseCommand& command);
+
+// One mouse, whose keys may stay held from one act to the next.
+class Mouse {
+  public:
+    void act(QWidget* control, MouseAct what, const MouseCommand& command);
+
+  private:
+    void press(QWidget* widget, Qt::MouseButton button, const QPoint& at);
+    void release(QWidget* widget, Qt::MouseButton button, const QPoint& at);
+    void send(QWidget* widget, QEvent::Type type, Qt::MouseButton button, const QPoint& at) const;
+
+    Qt::MouseButtons held_ = Qt::NoButton;
+};
 
 } // namespace tabrova

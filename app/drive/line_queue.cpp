@@ -1,6 +1,5 @@
 #include "app/drive/line_queue.h"
 
-#include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 
 #include <iostream>

@@ -4,8 +4,6 @@
 
 #include "sheet_canvas.h"
 
-#include <string_view>
-
 namespace sheet {
 
 // In logical pixels: 5 by 7, 4 by 7 and 3 by 5. There is a small '1', '2' and '3' only.

@@ -31,8 +31,8 @@ class MockPage {
     int width() const { return 32 * columnWidth_ + 60; }
     const QImage& image() const { return page_; }
 
-    void fill(const QRect& place, const QColor& colour) {
-        QPainter(&page_).fillRect(QRect(place.topLeft() * scale_, place.size() * scale_), colour);
+    void fill(const QRect& place, const QColor& color) {
+        QPainter(&page_).fillRect(QRect(place.topLeft() * scale_, place.size() * scale_), color);
     }
 
     void stretch(const QRect& place, const QRect& source, Raster raster) {
@@ -51,9 +51,9 @@ class MockPage {
     }
 
   private:
-    void put(const QPoint& at, QRgb colour, Raster raster) {
+    void put(const QPoint& at, QRgb color, Raster raster) {
         if (!page_.rect().contains(at)) return;
-        page_.setPixel(at, raster == Raster::And ? colour & page_.pixel(at) : colour);
+        page_.setPixel(at, raster == Raster::And ? color & page_.pixel(at) : color);
     }
 
     const QImage& sheet_;

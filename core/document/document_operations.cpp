@@ -1,7 +1,5 @@
 #include "core/document/document_operations.h"
 
-#include <algorithm>
-
 namespace tabrova {
 
 namespace {

@@ -1,6 +1,5 @@
 #include "core/files/line_reader.h"
 
-#include <cstdint>
 #include <cstring>
 
 namespace tabrova {

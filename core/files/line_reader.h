@@ -2,7 +2,7 @@
 // part of the text; a file that begins with plain LF lines and shows no CR LF is read by its LFs.
 #pragma once
 
-#include <fstream>
+#include <istream>
 #include <optional>
 #include <string_view>
 #include <vector>

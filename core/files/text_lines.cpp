@@ -3,8 +3,6 @@
 #include "core/files/regular_file.h"
 #include "core/text/code_page.h"
 
-#include <optional>
-
 namespace tabrova {
 
 namespace fs = std::filesystem;

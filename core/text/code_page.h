@@ -22,7 +22,4 @@ std::string utf8FromCodePage(std::string_view bytes);
 constexpr std::size_t LongestShownName = 1000; // characters
 std::string shownNameUtf8(std::string_view bytes);
 
-// A character that the page does not hold, or a malformed sequence, gives std::nullopt.
-std::optional<std::string> codePageFromUtf8(std::string_view utf8);
-
 } // namespace tabrova

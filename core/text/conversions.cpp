@@ -73,14 +73,6 @@ bool isTiny(std::string_view text) {
     return static_cast<long>(point) - static_cast<long>(digit) + exponentOf(text) < 0;
 }
 
-template <class Integer>
-std::optional<Integer> toInteger(double value) {
-    const double rounded = roundHalfToEven(value);
-    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
-        return std::nullopt;
-    return static_cast<Integer>(rounded);
-}
-
 bool equalsIgnoringCase(std::string_view text, std::string_view lower) {
     if (text.size() != lower.size()) return false;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -110,16 +102,17 @@ std::optional<double> toNumber(std::string_view text) {
     return value;
 }
 
-std::optional<std::int16_t> toInteger16(double value) { return toInteger<std::int16_t>(value); }
+std::optional<std::int16_t> toInteger16(double value) {
+    constexpr std::int16_t Least = std::numeric_limits<std::int16_t>::min();
+    constexpr std::int16_t Most = std::numeric_limits<std::int16_t>::max();
+    const double rounded = roundHalfToEven(value);
+    if (!(rounded >= Least && rounded <= Most)) return std::nullopt;
+    return static_cast<std::int16_t>(rounded);
+}
 
 std::optional<std::int16_t> toInteger16(std::string_view text) {
     const auto number = toNumber(text);
-    return number ? toInteger<std::int16_t>(*number) : std::nullopt;
-}
-
-std::optional<std::int32_t> toInteger32(std::string_view text) {
-    const auto number = toNumber(text);
-    return number ? toInteger<std::int32_t>(*number) : std::nullopt;
+    return number ? toInteger16(*number) : std::nullopt;
 }
 
 std::optional<bool> toBoolean(std::string_view text) {

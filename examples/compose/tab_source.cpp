@@ -1,7 +1,8 @@
 #include "examples/compose/tab_source.h"
 
 #include "core/document/document_operations.h"
-#include "core/text/code_page.h"
+#include "core/text/conversions.h"
+#include "examples/compose/source_text.h"
 
 #include <iostream>
 #include <sstream>

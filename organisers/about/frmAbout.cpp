@@ -54,7 +54,7 @@ void frmAbout::openAuthorsPage() {
 }
 
 void frmAbout::startSystemInformationTool() {
-    if (startSystemInformation()) return;
+    if (services().systemInformation.start()) return;
     services().boxes.ask({windowTitle(), "System Information Is Unavailable At This Time", BoxIcon::None});
 }
 

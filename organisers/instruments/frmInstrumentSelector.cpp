@@ -5,7 +5,6 @@
 #include "sound/pitch.h"
 
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QVBoxLayout>
 
 namespace tabrova {
@@ -80,8 +79,7 @@ void frmInstrumentSelector::lst_Instrument_Click() {
 }
 
 void frmInstrumentSelector::sample() {
-    const int note =
-        static_cast<int>(QRandomGenerator::global()->generateDouble() * SampleRange) + LowestSample;
+    const int note = static_cast<int>(services().randomness.fraction() * SampleRange) + LowestSample;
     sound().AllNotesOff();
     sound().NoteOn(GuitarChannel, note, sound().FixedVelocity);
     tmrNoteStopper_->setEnabled(false);

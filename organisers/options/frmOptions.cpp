@@ -28,7 +28,7 @@ constexpr std::array TestFrets = {0, 0, 1, 2, 2, 0}; // E major, string 0 to 5
 
 } // namespace
 
-frmOptions::~frmOptions() { services().synthesizer.changed = nullptr; }
+frmOptions::~frmOptions() { services().synthesizer.onChange(nullptr); }
 
 void frmOptions::Form_Load() {
     LoadLanguage();
@@ -120,7 +120,7 @@ void frmOptions::connectSound() {
         });
     connect(cmdSoundBank_, &QPushButton::clicked, this, [this] { chooseBank(); });
     connect(cmdTestSound_, &QPushButton::clicked, this, [this] { testSound(); });
-    services().synthesizer.changed = [this] { showSynthesizer(); };
+    services().synthesizer.onChange([this] { showSynthesizer(); });
 }
 
 void frmOptions::connectAppearance() {

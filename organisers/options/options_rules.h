@@ -1,4 +1,4 @@
-// What the options decide, without a window: the cursor's colours, the stored device position and the hidden
+// What the options decide, without a window: the cursor's colors, the stored device position and the hidden
 // debug box.
 #pragma once
 
@@ -12,7 +12,7 @@ namespace tabrova {
 
 struct CursorColorRow {
     const char* name;
-    std::optional<std::uint32_t> color; // 0x00BBGGRR; std::nullopt for the system's highlight colour
+    std::optional<std::uint32_t> color; // 0x00BBGGRR; std::nullopt for the system's highlight color
 };
 
 constexpr std::array<CursorColorRow, 6> CursorColors = {{{"Red", 0x0000FF},
@@ -22,7 +22,7 @@ constexpr std::array<CursorColorRow, 6> CursorColors = {{{"Red", 0x0000FF},
                                                          {"Orange", 0x0080FF},
                                                          {"Black", 0x000000}}};
 
-// The colour of a row as the toolkit holds it.
+// The color of a row as the toolkit holds it.
 QRgb cursorColor(const CursorColorRow& row, QRgb highlight);
 
 // The position in a list of `count` rows; std::nullopt for a text that is no number or for a row that is not

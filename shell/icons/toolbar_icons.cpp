@@ -14,17 +14,17 @@ namespace tabrova {
 namespace {
 
 // Readable on light and on dark grounds.
-constexpr QRgb accentColour = 0xffd4610f;
+constexpr QRgb accentColor = 0xffd4610f;
 
-struct IconColours {
+struct IconColors {
     QColor theme;
     QColor accent;
 };
 
-QColor mixed(const QColor& colour, const QColor& ground, double share) {
+QColor mixed(const QColor& color, const QColor& ground, double share) {
     const auto channel = [&](int upper, int lower) { return qRound(lower + (upper - lower) * share); };
-    return QColor(channel(colour.red(), ground.red()), channel(colour.green(), ground.green()),
-                  channel(colour.blue(), ground.blue()));
+    return QColor(channel(color.red(), ground.red()), channel(color.green(), ground.green()),
+                  channel(color.blue(), ground.blue()));
 }
 
 // The disabled group's ink, where it is between the ground and the normal ink. Some themes have none of their
@@ -39,7 +39,7 @@ QColor disabledInk(const QPalette& palette, const QColor& normal) {
     return share < 0.2 || share > 0.8 ? mixed(normal, ground, 0.4) : opaque;
 }
 
-IconColours coloursFor(QIcon::Mode mode) {
+IconColors colorsFor(QIcon::Mode mode) {
     const QPalette palette = QApplication::palette();
     const QColor normal = palette.color(QPalette::Active, QPalette::ButtonText);
     if (mode == QIcon::Disabled) {
@@ -50,14 +50,14 @@ IconColours coloursFor(QIcon::Mode mode) {
         const QColor onHighlight = palette.color(QPalette::Active, QPalette::HighlightedText);
         return {onHighlight, onHighlight};
     }
-    return {normal, QColor(accentColour)};
+    return {normal, QColor(accentColor)};
 }
 
-void paintPart(QPainter& painter, const IconPart& part, const IconGrid& grid, const QColor& colour) {
+void paintPart(QPainter& painter, const IconPart& part, const IconGrid& grid, const QColor& color) {
     const QPainterPath path = iconPath(part, grid);
-    if (part.stroke != Stroke::Line) painter.fillPath(path, colour);
+    if (part.stroke != Stroke::Line) painter.fillPath(path, color);
     if (part.stroke != Stroke::Fill)
-        painter.strokePath(path, QPen(colour, grid.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(path, QPen(color, grid.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 class ToolbarIconEngine : public QIconEngine {
@@ -72,10 +72,10 @@ class ToolbarIconEngine : public QIconEngine {
         painter->translate(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2);
         painter->scale(1 / pixels, 1 / pixels);
         const IconGrid grid(side * pixels / iconUnits);
-        const IconColours colours = coloursFor(mode);
+        const IconColors colors = colorsFor(mode);
         for (const IconPart& part : drawing_.parts)
             if (!part.text.empty())
-                paintPart(*painter, part, grid, part.ink == Ink::Accent ? colours.accent : colours.theme);
+                paintPart(*painter, part, grid, part.ink == Ink::Accent ? colors.accent : colors.theme);
         painter->restore();
     }
 

@@ -1,4 +1,4 @@
-// The pictures of the toolbar's buttons: one family, drawn in strokes at any size and in the theme's colours.
+// The pictures of the toolbar's buttons: one family, drawn in strokes at any size and in the theme's colors.
 #pragma once
 
 #include <QIcon>
@@ -18,7 +18,7 @@ inline constexpr std::array<std::string_view, 32> toolbarIconWords = {
 };
 
 // The icon of a toolbar button by its key word; a null icon for a word that has none.
-// Its colours are looked up at each painting, so a change of the theme needs no new icon.
+// Its colors are looked up at each painting, so a change of the theme needs no new icon.
 QIcon toolbarIcon(const QString& word);
 
 } // namespace tabrova

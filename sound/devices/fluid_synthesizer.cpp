@@ -72,9 +72,7 @@ void FluidSynthesizer::open() {
         shared_->state.loading = true;
         shared_->state.trouble.clear();
     }
-    const auto tell = [this] {
-        if (changed) changed();
-    };
+    const auto tell = [this] { tellChange(); };
     calls_.post([shared = shared_, places = places_, opening, tell] { shared->load(places, opening, tell); });
     watch_.start();
     shared_->tellChanged(tell);
@@ -92,9 +90,7 @@ void FluidSynthesizer::close() {
     }
     calls_.post([shared = shared_] { shared->closeOutput(); });
     calls_.finishes(AnswerTime);
-    shared_->tellChanged([this] {
-        if (changed) changed();
-    });
+    shared_->tellChanged([this] { tellChange(); });
 }
 
 void FluidSynthesizer::waitUntilLoaded() {
@@ -120,7 +116,7 @@ void FluidSynthesizer::watch() {
     const SynthesizerState told = state();
     if (told.loading && told.trouble.isEmpty()) return;
     watch_.stop();
-    if (told.loading && changed) changed();
+    if (told.loading) tellChange();
 }
 
 void FluidSynthesizer::send(const ShortMessage& message) {

@@ -1,8 +1,6 @@
 // The virtual fretboard in the editor: clicks that write and remove notes, and when it is drawn.
 #include "tests/editing/fake_window.h"
 
-#include <algorithm>
-
 namespace tabrova::testing {
 namespace {
 

@@ -1,8 +1,6 @@
 // Names come through as texts and back, whatever bytes they are made of.
 #include "platform/paths.h"
 
-#include <QDir>
-
 #include <gtest/gtest.h>
 
 #include <random>

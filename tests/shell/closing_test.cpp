@@ -68,8 +68,8 @@ class Closing : public testing::MainWindowTest {
 
     Log log;
     WritingDevice device{log};
-    Services own{boxes,        files,  addresses,   *settings, printer,           device,
-                 timerService, timers, synthesizer, folder(),  [this] { ++ends; }};
+    Services own{boxes,        files,  addresses,   systemInformation, *settings, printer,           device,
+                 timerService, timers, synthesizer, randomness,        folder(),  [this] { ++ends; }};
     QWidget* page = nullptr;
     Watcher watcher{log};
 };

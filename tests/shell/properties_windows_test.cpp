@@ -366,6 +366,17 @@ TEST_F(PropertiesWindows, ASamplePlaysOneNoteFrom40To73AndIsStoppedOnce) {
     EXPECT_FALSE(midi.take().empty());
 }
 
+TEST_F(PropertiesWindows, ASamplesNoteIsTheFractionOf34NotesFrom40) {
+    load();
+    openInstruments();
+    for (const auto& [fraction, note] :
+         {std::pair{0.0, 40}, {0.029, 40}, {0.03, 41}, {0.5, 57}, {0.97, 72}, {0.9999, 73}}) {
+        randomness.given = {fraction};
+        press(*instruments, "Command1");
+        EXPECT_EQ(midi.take().back()[1], note) << fraction;
+    }
+}
+
 class InstrumentFiles : public PropertiesWindows, public ::testing::WithParamInterface<int> {};
 
 TEST_P(InstrumentFiles, OfAnyLengthFillTheList) {

@@ -1,5 +1,5 @@
 // The toolbar's icons: there for every word, told apart, inside their square, sharp at any size, and in the
-// theme's colours.
+// theme's colors.
 #include "shell/icons/toolbar_icons.h"
 
 #include <QApplication>
@@ -34,15 +34,15 @@ double coverage(const QImage& image) {
     return sum / (image.width() * image.height());
 }
 
-int pixelsOf(const QImage& image, const QColor& colour) {
+int pixelsOf(const QImage& image, const QColor& color) {
     int pixels = 0;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            pixels += image.pixel(x, y) == colour.rgb();
+            pixels += image.pixel(x, y) == color.rgb();
     return pixels;
 }
 
-bool holdsColour(const QImage& image, const QColor& colour) { return pixelsOf(image, colour) > 0; }
+bool holdsColor(const QImage& image, const QColor& color) { return pixelsOf(image, color) > 0; }
 
 // How far the picture stands out from its ground: the sum over its pixels.
 double contrast(const QImage& image, const QColor& ground) {
@@ -160,9 +160,9 @@ TEST_F(ToolbarIcons, AnIconFollowsTheThemeWithoutBeingMadeAnew) {
         for (const QPalette& theme : {light, dark}) {
             QApplication::setPalette(theme);
             const QColor ink = theme.color(QPalette::ButtonText);
-            EXPECT_TRUE(holdsColour(icon.pixmap(40, 40).toImage(), ink)) << word;
+            EXPECT_TRUE(holdsColor(icon.pixmap(40, 40).toImage(), ink)) << word;
         }
-        EXPECT_FALSE(holdsColour(icon.pixmap(40, 40).toImage(), light.color(QPalette::ButtonText))) << word;
+        EXPECT_FALSE(holdsColor(icon.pixmap(40, 40).toImage(), light.color(QPalette::ButtonText))) << word;
     }
 }
 
@@ -173,8 +173,8 @@ TEST_F(ToolbarIcons, ADisabledIconIsWeaker) {
         for (const auto word : toolbarIconWords) {
             const QImage disabled = imageOf(word, 20, 1, QIcon::Disabled);
             EXPECT_LT(contrast(disabled, ground), contrast(imageOf(word, 20), ground)) << word;
-            EXPECT_TRUE(holdsColour(imageOf(word, 40, 1, QIcon::Disabled),
-                                    theme.color(QPalette::Disabled, QPalette::ButtonText)))
+            EXPECT_TRUE(holdsColor(imageOf(word, 40, 1, QIcon::Disabled),
+                                   theme.color(QPalette::Disabled, QPalette::ButtonText)))
                 << word;
         }
     }
@@ -194,7 +194,7 @@ TEST_F(ToolbarIcons, ADisabledIconIsSeenEvenInThemesWithoutAFittingInk) {
 
 TEST_F(ToolbarIcons, ASelectedIconWearsTheSelectionsInk) {
     const QColor ink = light.color(QPalette::HighlightedText);
-    EXPECT_TRUE(holdsColour(imageOf("stop", 20, 1, QIcon::Selected), ink));
+    EXPECT_TRUE(holdsColor(imageOf("stop", 20, 1, QIcon::Selected), ink));
 }
 
 } // namespace

@@ -180,6 +180,19 @@ TEST_F(Windows, OfTheInstrumentsCloseInOrderAndRedraw) {
     EXPECT_EQ(at<QLabel>("lblPatchDisplay").text(), "Patch: Guitar Harmonics");
 }
 
+TEST_F(Windows, AboutTheProgramTellOfAMissingSystemToolAndOfNothingElse) {
+    open("mnuAbout", "frmAbout");
+    systemInformation.starts = true;
+    QTest::mouseClick(&at("cmdSysInfo"), Qt::LeftButton);
+    EXPECT_EQ(systemInformation.take(), 1);
+    EXPECT_TRUE(boxes.take().empty());
+    systemInformation.starts = false;
+    QTest::mouseClick(&at("cmdSysInfo"), Qt::LeftButton);
+    const auto told = boxes.take();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_EQ(told.first().box.text.toStdString(), "System Information Is Unavailable At This Time");
+}
+
 TEST_F(Windows, AboutTheProgram) {
     open("mnuAbout", "frmAbout");
     EXPECT_EQ(margins(grid()).toStdString(), "24 20 24 20");

@@ -1,4 +1,4 @@
-// The fretboard's pixels: lines, inlays, labels, and dots in every cursor colour.
+// The fretboard's pixels: lines, inlays, labels, and dots in every cursor color.
 #include "tabview/tab_view.h"
 #include "tests/tabview/page_helpers.h"
 #include "tests/tabview/plain_blitter.h"

@@ -18,6 +18,28 @@ TEST(PageLayout, AnEmptyStaffIsItsThreeCopies) {
     EXPECT_EQ(layout(document, 984), expected);
 }
 
+TEST(PageLayout, ATypedCellIsTheCopyThatTheNextRedrawMakesOfIt) {
+    Document document;
+    makePage(document, 1, 2, 984, 472);
+    for (const char* text : {"0", "9", "10", "29", "x", ">"})
+        for (const int string : {0, 5})
+            for (const int column : {0, 31}) {
+                document.setNote(ColumnsPerStaff + column, string, text);
+                const Rect cursor = {document.ColumnWidth * column + 22, 125 + 10 * string, 13, 10};
+                const auto copy = typedCell(text, cursor);
+                const std::vector<SpriteCopy> drawn = layout(document, 984);
+                ASSERT_TRUE(copy) << text;
+                EXPECT_EQ(std::count(drawn.begin(), drawn.end(), *copy), 1) << text;
+                document.setNote(ColumnsPerStaff + column, string, "");
+            }
+}
+
+TEST(PageLayout, ATypedCellWithoutATextIsPaperAndAnUnknownTextLeavesItAsItIs) {
+    EXPECT_EQ(typedCell("", {22, 25, 13, 10}), (SpriteCopy{{24, 26, 9, 7}, {331, 1, 9, 7}, Raster::SrcCopy}));
+    for (const char* text : {"30", "no", "007"})
+        EXPECT_EQ(typedCell(text, {22, 25, 13, 10}), std::nullopt) << text;
+}
+
 TEST(PageLayout, StopsAtTheLastStaffAndAtTheLastVisibleOne) {
     Document document;
     std::vector<SpriteCopy> copies;

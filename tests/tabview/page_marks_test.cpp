@@ -141,6 +141,25 @@ TEST(BarMarks, AnUnknownMarkDrawsNothing) {
         EXPECT_TRUE(barMark(mark, 0, 3, 29).empty()) << mark;
 }
 
+// The frame of the cursor on a cell.
+Rect cursorOn(int r, int c, int s) { return {29 * c + 22, 100 * r + 25 + 10 * s, 13, 10}; }
+
+TEST(TypedBarMarks, StandWhereTheNextRedrawPutsThemButThoseOfOneSprite8PixelsToTheLeft) {
+    for (const char* mark : {".", "r", "r1", "r9", "r15"})
+        for (const int r : {0, 3})
+            for (const int c : {0, 7, 31})
+                for (int s = 0; s < StringsPerTrack; ++s) {
+                    std::vector<SpriteCopy> expected = barMark(mark, r, c, 29);
+                    if (expected.size() == 1) expected.front().place.left -= 8;
+                    EXPECT_EQ(typedBarMark(mark, cursorOn(r, c, s), s), expected) << mark;
+                }
+}
+
+TEST(TypedBarMarks, OfNoKnownKindDrawNothing) {
+    for (const char* mark : {"", "r16", "|"})
+        EXPECT_TRUE(typedBarMark(mark, cursorOn(0, 3, 2), 2).empty()) << mark;
+}
+
 TEST_F(TechniqueMarks, EveryRowHasItsPlaceSizeSpriteAndRaster) {
     for (const TechniqueRow& row : Rows)
         for (const int CW : {14, 29, 39, 58})

@@ -30,7 +30,7 @@ inline void PrintTo(const SpriteCopy& copy, std::ostream* out) {
 
 namespace testing {
 
-// The colour channels, without what stands in the unused byte.
+// The color channels, without what stands in the unused byte.
 inline QRgb colorAt(const QImage& image, int x, int y) { return image.pixel(x, y) | 0xFF000000u; }
 
 // All rectangles in logical pixels of `scale` image pixels. What falls outside either image is left out.

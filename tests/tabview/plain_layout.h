@@ -5,7 +5,6 @@
 #include "core/document/document.h"
 #include "tabview/sprites.h"
 
-#include <cmath>
 #include <string>
 #include <vector>
 

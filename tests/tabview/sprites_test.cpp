@@ -18,7 +18,7 @@ int ink(const Surface& sheet, const Rect& rect) {
     return dark;
 }
 
-// Pixels that are not white: lines may be of a quiet colour.
+// Pixels that are not white: lines may be of a quiet color.
 int drawn(const Surface& sheet, const Rect& rect) {
     int pixels = 0;
     for (int y = rect.top; y < rect.bottom(); ++y)

@@ -55,12 +55,6 @@ TEST(Conversions, AnIntegerOverSixteenBitsFails) {
     EXPECT_EQ(toInteger16("3.5"), 4);
 }
 
-TEST(Conversions, AnIntegerOverThirtyTwoBitsFails) {
-    EXPECT_EQ(toInteger32("2147483647"), 2147483647);
-    EXPECT_EQ(toInteger32("2147483648"), std::nullopt);
-    EXPECT_EQ(toInteger32("-2147483648"), std::numeric_limits<std::int32_t>::min());
-}
-
 TEST(Conversions, BooleansAreTheTwoWordsOrANumber) {
     for (const char* text : {"True", "true", "TRUE", " True ", "-1", "1", "0.5", " 7 "})
         EXPECT_EQ(toBoolean(text), true);
@@ -141,17 +135,8 @@ TEST(Conversions, WhatIsNoNumberIsNoInteger) {
     EXPECT_EQ(toInteger16(std::numeric_limits<double>::quiet_NaN()), std::nullopt);
     EXPECT_EQ(toInteger16(std::numeric_limits<double>::infinity()), std::nullopt);
     EXPECT_EQ(toInteger16(-std::numeric_limits<double>::infinity()), std::nullopt);
-    for (const char* text : {"", "x", ">", "True", "12a"}) {
+    for (const char* text : {"", "x", ">", "True", "12a"})
         EXPECT_EQ(toInteger16(text), std::nullopt) << text;
-        EXPECT_EQ(toInteger32(text), std::nullopt) << text;
-    }
-}
-
-TEST(Conversions, ThirtyTwoBitsRoundHalfToEvenToo) {
-    EXPECT_EQ(toInteger32("100000.5"), 100000);
-    EXPECT_EQ(toInteger32("100001.5"), 100002);
-    EXPECT_EQ(toInteger32("2147483647.5"), std::nullopt);
-    EXPECT_EQ(toInteger32("-2147483649"), std::nullopt);
 }
 
 TEST(Conversions, APrintedIntegerConvertsBackForAllSixteenBits) {

@@ -210,7 +210,7 @@ TEST_F(OptionsControls, TroubleIsShownOnlyWhileTheSynthesizerRuns) {
     for (const bool running : {true, false})
         for (const char* trouble : {"", "No sound bank was found."}) {
             synthesizer.told = {running, false, "", "", trouble};
-            synthesizer.changed();
+            synthesizer.tellChange();
             EXPECT_EQ(at("lblSoundTrouble").isHidden(), !running || *trouble == '\0');
         }
 }
@@ -244,19 +244,19 @@ TEST_F(OptionsControls, TheSynthesizerIsNotHeardAnyMoreWhenTheyAreGone) {
     {
         frmOptions other(context, nullptr);
         other.Form_Load();
-        EXPECT_TRUE(synthesizer.changed);
+        EXPECT_TRUE(synthesizer.isHeard());
     }
-    EXPECT_FALSE(synthesizer.changed);
+    EXPECT_FALSE(synthesizer.isHeard());
 }
 
 TEST_F(OptionsControls, TheSynthesizersWordsAreTheLanguages) {
     std::ofstream(services.programFolder / "lang.trl") << "";
     load();
     synthesizer.told = {true, false, "", "", ""};
-    synthesizer.changed();
+    synthesizer.tellChange();
     EXPECT_EQ(at<QLabel>("lblAudioOutput").text(), "none");
     synthesizer.told = {true, true, "", "", ""};
-    synthesizer.changed();
+    synthesizer.tellChange();
     EXPECT_EQ(at<QLabel>("lblAudioOutput").text(), "loading...");
 }
 

@@ -188,18 +188,18 @@ TEST_F(Options, TellWhatTheSynthesizerUses) {
     load();
     EXPECT_EQ(label("lblSoundBank").text(), "loading...");
     synthesizer.told = {true, false, "/banks/small.sf2", "PulseAudio", ""};
-    synthesizer.changed();
+    synthesizer.tellChange();
     EXPECT_EQ(label("lblSoundBank").text(), "small.sf2");
     EXPECT_EQ(label("lblSoundBank").toolTip(), "/banks/small.sf2");
     EXPECT_EQ(label("lblAudioOutput").text(), "PulseAudio");
     EXPECT_TRUE(label("lblSoundTrouble").isHidden());
     synthesizer.told = {true, false, "", "", "No sound bank was found."};
-    synthesizer.changed();
+    synthesizer.tellChange();
     EXPECT_EQ(label("lblSoundBank").text(), "none");
     EXPECT_EQ(label("lblSoundTrouble").text(), "No sound bank was found.");
     EXPECT_FALSE(label("lblSoundTrouble").isHidden());
     synthesizer.told = {};
-    synthesizer.changed();
+    synthesizer.tellChange();
     EXPECT_EQ(label("lblAudioOutput").text(), "not in use");
 }
 

@@ -1,4 +1,4 @@
-// The cursor's colours, the stored device position and the hidden debug box.
+// The cursor's colors, the stored device position and the hidden debug box.
 #include "organisers/options/options_rules.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,6 @@
 #include "sound/devices/midi_ports.h"
 #include "sound/devices/quiet_libraries.h"
 
-#include <QtGlobal>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -3,7 +3,6 @@
 #include "sound/devices/system_midi_device.h"
 
 #include <QCoreApplication>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -228,7 +227,7 @@ TEST_F(SynthesizerThreads, LoadOnlyTheLastOfSeveralBanks) {
 
 TEST_F(SynthesizerThreads, TellThatAServerDoesNotAnswerAndGoOnWhenItDoes) {
     int changes = 0;
-    synthesizer.changed = [&changes] { ++changes; };
+    synthesizer.onChange([&changes] { ++changes; });
     engine->hold("open");
     expectAnswer("open", [this] { synthesizer.open(); });
     EXPECT_FALSE(tellsNoAnswer()) << "it has some time";
@@ -276,7 +275,7 @@ TEST_F(SynthesizerThreads, EndWhileAServerHangs) {
     bool told = false;
     expectAnswer("end", [&] {
         FluidSynthesizer own({"mine.sf2", {}, {}, {}}, engine);
-        own.changed = [&told] { told = true; };
+        own.onChange([&told] { told = true; });
         own.open();
         own.waitUntilLoaded();
         engine->hold("close");
