@@ -1,25 +1,15 @@
 #include "editing/structure_edits.h"
 
-#include "core/document/document_operations.h"
-
 #include <algorithm>
 
 namespace tabrova {
 
 namespace {
 
-int staffStart(const Document& document) { return (document.CurrentStaff - 1) * ColumnsPerStaff; }
-
 bool anyNote(const Document& document, int column, RowRange rows) {
     for (int row = rows.first; row < rows.first + rows.count; ++row)
         if (!document.note(column, row).empty()) return true;
     return false;
-}
-
-void clearMarks(Document& document, int first, int count) {
-    const int end = std::min(first + count, document.ColumnCapacity);
-    for (int column = first; column < end; ++column)
-        document.setBarMark(column, "");
 }
 
 // Marks `at` to `end` - `count` - 1 move to the right; the ones at `at` stay as they are.
@@ -61,7 +51,7 @@ bool insertStaff(Document& document, int at) {
     insertStaffColumns(document.NoteGrid, at);
     insertStaffColumns(document.TechniqueGrid, at);
     moveMarksRight(document, at, ColumnsPerStaff, end);
-    clearMarks(document, at, ColumnsPerStaff);
+    clearBarMarks(document, at, ColumnsPerStaff);
     return true;
 }
 
@@ -95,11 +85,7 @@ void makeRoomForColumn(CellGrid& grid, int at, int end, RowRange rows) {
 }
 
 void clearStaff(Document& document, const StaffClear& what) {
-    const RowRange rows = rowsOf(document, what.rows);
-    const int first = staffStart(document);
-    if (what.notes) document.NoteGrid.clear(first, ColumnsPerStaff, rows.first, rows.count);
-    if (what.techniques) document.TechniqueGrid.clear(first, ColumnsPerStaff, rows.first, rows.count);
-    if (what.barMarks) clearMarks(document, first, ColumnsPerStaff);
+    emptyStaff(document, rowsOf(document, what.rows), what.parts);
 }
 
 void EnsureRoomForInsert(Document& document, Rows rows) {
@@ -115,7 +101,7 @@ bool newStaffBeforeCurrent(Document& document) { return insertStaff(document, st
 void deleteCurrentStaff(Document& document) {
     const int at = staffStart(document);
     const RowRange rows = rowsOf(document, Rows::AllTracks);
-    clearStaff(document, {Rows::AllTracks, true, true, true});
+    emptyStaff(document, rows, {true, true, true});
     moveCellsLeft(document.NoteGrid, at, ColumnsPerStaff, rows);
     moveCellsLeft(document.TechniqueGrid, at, ColumnsPerStaff, rows);
     moveMarksLeft(document, at, ColumnsPerStaff);

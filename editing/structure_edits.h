@@ -3,27 +3,21 @@
 // write and are passed over. None of them draws.
 #pragma once
 
-#include "core/document/document.h"
+#include "core/document/document_operations.h"
 
 namespace tabrova {
 
 enum class Rows { AllTracks, CurrentTrack };
-
-struct RowRange {
-    int first;
-    int count;
-};
+// By the number of tracks, whatever the grids hold.
 RowRange rowsOf(const Document& document, Rows rows);
 
 // In these rows the columns `at` to `end` - 2 move one to the right, and column `at` becomes "".
 void makeRoomForColumn(CellGrid& grid, int at, int end, RowRange rows);
 
-// What a clear command empties of the current staff. Bar marks are shared by all tracks.
+// What a clear command empties of the current staff.
 struct StaffClear {
     Rows rows;
-    bool notes;
-    bool techniques;
-    bool barMarks;
+    StaffParts parts;
 };
 void clearStaff(Document& document, const StaffClear& what);
 

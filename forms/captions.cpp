@@ -2,6 +2,7 @@
 
 #include "core/language/language_file.h"
 #include "forms/control_names.h"
+#include "forms/picture_button.h"
 #include "forms/text_edges.h"
 
 #include <QAbstractButton>
@@ -17,6 +18,16 @@ namespace tabrova {
 namespace {
 
 constexpr qsizetype LongestText = 250; // characters
+
+// A caption as it is read: the sign of an access key is none of its letters, and two of them are one.
+QString spoken(const QString& caption) {
+    QString text;
+    for (qsizetype at = 0; at < caption.size(); ++at) {
+        if (caption[at] == '&' && at + 1 < caption.size()) ++at;
+        text.append(caption[at]);
+    }
+    return text;
+}
 
 // The form's controls by name, in lower case.
 class FormControls {
@@ -49,6 +60,8 @@ class FormControls {
         if (!control) return setTabCaption(name, text);
         if (auto* action = qobject_cast<QAction*>(control)) action->setText(text);
         if (auto* button = qobject_cast<QAbstractButton*>(control)) button->setText(text);
+        // The caption of a picture is not seen: it is its hint.
+        if (dynamic_cast<PictureButton*>(control)) setToolTip(name, spoken(text));
         if (auto* label = qobject_cast<QLabel*>(control)) {
             label->setTextFormat(Qt::PlainText);
             label->setText(text);

@@ -1,22 +1,124 @@
 #include "forms/form.h"
 
 #include "forms/captions.h"
+#include "forms/tab_order.h"
+
+#include <QCheckBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShowEvent>
 
 namespace tabrova {
 
+namespace {
+
+bool isReturn(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+// A default button would press itself again and again while the key is held down, perhaps from before it was
+// there.
+class HeldKeys : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) return false;
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        return key.isAutoRepeat() && isReturn(key);
+    }
+};
+
+// Return checks no box: it presses only buttons that act.
+QAbstractButton* pressedByReturn(QWidget* control) {
+    const bool box = qobject_cast<QCheckBox*>(control) || qobject_cast<QRadioButton*>(control);
+    return box ? nullptr : qobject_cast<QAbstractButton*>(control);
+}
+
+QPushButton* defaultButton(const QWidget& form) {
+    for (QPushButton* button : form.findChildren<QPushButton*>())
+        if (button->window() == &form && button->isDefault() && button->isVisible()) return button;
+    return nullptr;
+}
+
+bool canHaveFocus(const QWidget* control) { return control && control->isVisible() && control->isEnabled(); }
+
+} // namespace
+
 Form::Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent)
-    : QDialog(parent), programFolder_(programFolder) {
+    : QDialog(parent), programFolder_(programFolder), heldKeys_(new HeldKeys(this)) {
     setObjectName(name);
 }
 
 void Form::LoadLanguage() {
+    settleControls();
     loadLanguage(*this, programFolder_,
                  [this](std::string_view name, const QString& text) { takeMessage(name, text); });
 }
 
+void Form::takeMessage(std::string_view, const QString&) {}
+
+// The toolkit would make the first push button the default one, and the one that last had the focus after it;
+// a text with a tag in it would be markup.
+void Form::settleControls() {
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        if (button->window() != this) continue;
+        button->setAutoDefault(false);
+        button->installEventFilter(heldKeys_);
+    }
+    for (QLabel* label : findChildren<QLabel*>())
+        if (label->window() == this && label->textFormat() == Qt::AutoText)
+            label->setTextFormat(Qt::PlainText);
+}
+
+void Form::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (event->spontaneous()) return; // it only comes back from the task bar
+    settleControls();
+    setAttribute(Qt::WA_KeyboardFocusChange); // the style shows at once where the focus is
+    focusFirst();
+}
+
+// As if Tab had gone there, so that the text of a line is selected.
+void Form::focusFirst() {
+    QWidget* first = canHaveFocus(firstFocus_) ? firstFocus_.data() : firstTabStop(*this);
+    if (first) first->setFocus(Qt::TabFocusReason);
+}
+
+bool Form::focusNextPrevChild(bool next) {
+    QWidget* stop = tabStop(*this, focusWidget(), next ? TabStep::Next : TabStep::Previous);
+    if (!stop) return false;
+    stop->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    const bool escape = event->matches(QKeySequence::Cancel);
+    const bool entered = isReturn(*event) && !(event->modifiers() & ~Qt::KeypadModifier);
+    if (!escape && !entered) return event->ignore();
+    if (event->isAutoRepeat()) return;
+    if (escape) {
+        close();
+    } else {
+        pressByReturn();
+    }
+}
+
+void Form::pressByReturn() {
+    QAbstractButton* button = pressedByReturn(focusWidget());
+    if (!button) button = defaultButton(*this);
+    if (button) button->click();
+}
+
 void Form::done(int result) {
+    const bool open = isVisible();
+    const QPointer<Form> form = this;
     QDialog::done(result);
-    if (closed) closed();
+    if (!open || !form || !closed) return;
+    const auto tell = closed; // which goes with the form, if it goes now
+    tell();
 }
 
 } // namespace tabrova

@@ -2,8 +2,15 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace tabrova {
+
+namespace {
+
+constexpr int MarkWidth = 2; // pixels
+
+} // namespace
 
 ListBox::ListBox(const QString& name, QWidget* parent, KeyClick keyClick)
     : QListWidget(parent), keyClick_(keyClick) {
@@ -47,13 +54,14 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
     const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // A key that is still held down from before has chosen nothing here.
+    const bool choosing = chosenRow() >= 0 && !event->isAutoRepeat();
     if (entered && DoubleClick) {
-        if (chosenRow() >= 0) DoubleClick();
+        if (choosing) DoubleClick();
         return;
     }
     if (keyClick_ == KeyClick::AtEnter && (entered || event->key() == Qt::Key_Space)) {
-        // A key that is still held down from before has chosen nothing here.
-        if (chosenRow() >= 0 && !event->isAutoRepeat()) raiseClick();
+        if (choosing) raiseClick();
         return;
     }
     const int before = currentRow();
@@ -61,6 +69,15 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     QListWidget::keyPressEvent(event);
     const bool chosenNow = nothingChosen && !selectedItems().isEmpty();
     if (keyClick_ == KeyClick::AtMove && (currentRow() != before || chosenNow)) raiseClick();
+}
+
+// The style marks the row that has the keyboard; where there is none, the list itself has the mark.
+void ListBox::paintEvent(QPaintEvent* event) {
+    QListWidget::paintEvent(event);
+    if (!hasFocus() || currentRow() >= 0) return;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), MarkWidth));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
 }
 
 } // namespace tabrova

@@ -86,17 +86,26 @@ void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int
     }
 }
 
+int staffStart(const Document& document) { return (document.CurrentStaff - 1) * ColumnsPerStaff; }
+
 std::int32_t GetCurrentXPosition(Document& document) {
-    document.CurrentColumn =
-        document.CurrentStaff * ColumnsPerStaff - ColumnsPerStaff + document.ColumnInStaff;
+    document.CurrentColumn = staffStart(document) + document.ColumnInStaff;
     return document.CurrentColumn;
 }
 
+void emptyStaff(Document& document, RowRange rows, const StaffParts& parts) {
+    const int first = staffStart(document);
+    if (parts.notes) document.NoteGrid.clear(first, ColumnsPerStaff, rows.first, rows.count);
+    if (parts.techniques) document.TechniqueGrid.clear(first, ColumnsPerStaff, rows.first, rows.count);
+    if (parts.barMarks) clearBarMarks(document, first, ColumnsPerStaff);
+}
+
 void ClearStaffallall(Document& document) {
-    const int first = document.CurrentStaff * ColumnsPerStaff - ColumnsPerStaff;
-    document.NoteGrid.clear(first, ColumnsPerStaff, 0, document.NoteGrid.rows());
-    document.TechniqueGrid.clear(first, ColumnsPerStaff, 0, document.TechniqueGrid.rows());
-    for (int column = first; column < first + ColumnsPerStaff; ++column)
+    emptyStaff(document, {0, document.NoteGrid.rows()}, {true, true, true});
+}
+
+void clearBarMarks(Document& document, int first, int count) {
+    for (int column = first; column < first + count; ++column)
         document.setBarMark(column, "");
 }
 

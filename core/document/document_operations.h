@@ -21,11 +21,26 @@ bool growByOneStaff(Document& document);
 void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int16_t s3, std::int16_t s4,
                   std::int16_t s5, std::int16_t s6);
 
+// The first column of the current staff.
+int staffStart(const Document& document);
 // CurrentColumn follows the cursor's staff and its column in the staff. Returns it.
 std::int32_t GetCurrentXPosition(Document& document);
 
-// The cells of the current staff's 32 columns become "": which arrays and rows, the name tells.
+struct RowRange {
+    int first;
+    int count;
+};
+// What can be emptied of a staff. Bar marks are shared by all tracks.
+struct StaffParts {
+    bool notes;
+    bool techniques;
+    bool barMarks;
+};
+// These parts of the current staff's 32 columns become "", the cells in these rows alone.
+void emptyStaff(Document& document, RowRange rows, const StaffParts& parts);
+// All parts in all rows of the grids, those of no track as well.
 void ClearStaffallall(Document& document);
+void clearBarMarks(Document& document, int first, int count);
 
 // The next save asks for a name.
 void forgetFileName(Document& document);

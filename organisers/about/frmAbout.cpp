@@ -21,10 +21,10 @@ frmAbout::frmAbout(const ToolContext& context, QWidget* parent) : ToolWindow("fr
     credits->setWordWrap(true);
     credits->setMinimumWidth(340);
     sequencer_ = named(new QLabel(this), "lblSequencer");
+    sequencer_->setTextFormat(Qt::RichText); // a link around the plain text
     sequencer_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     connect(sequencer_, &QLabel::linkActivated, this, [this] { openAuthorsPage(); });
     auto* cmdSysInfo = named(new QPushButton(this), "cmdSysInfo");
-    cmdSysInfo->setAutoDefault(false);
     auto* cmdOK = named(new QPushButton(this), "cmdOK");
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
@@ -41,7 +41,7 @@ frmAbout::frmAbout(const ToolContext& context, QWidget* parent) : ToolWindow("fr
     grid->addWidget(cmdSysInfo, 5, 1);
     grid->addWidget(cmdOK, 5, 2);
     grid->setColumnStretch(0, 1);
-    cmdOK->setFocus();
+    setFirstFocus(cmdOK);
 }
 
 void frmAbout::takeMessage(std::string_view, const QString& text) {

@@ -61,6 +61,7 @@ frmFileProperties::frmFileProperties(const ToolContext& context, QWidget* parent
     for (QLineEdit* box : {txtTitle_, txtAuthor_})
         restrictToCodePage(*box, foreignHint);
     build();
+    setFirstFocus(sldSpeed_);
     connect(sldSpeed_, &QSlider::valueChanged, spnSpeed_, &QSpinBox::setValue);
     connect(spnSpeed_, &QSpinBox::valueChanged, sldSpeed_, &QSlider::setValue);
     connect(chkSpeedBoost_, &QCheckBox::toggled, this,
@@ -124,11 +125,6 @@ void frmFileProperties::Form_Unload() {
         properties.Notes = bytesOfNotes(txtNotes_->toPlainText()) + notesRest_;
     properties.PreventReverberations = chkReverb_->isChecked();
     context_.commands.properties.setProperties(properties);
-}
-
-void frmFileProperties::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    sldSpeed_->setFocus();
 }
 
 void frmFileProperties::done(int result) {

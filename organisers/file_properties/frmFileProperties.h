@@ -26,7 +26,6 @@ class frmFileProperties : public ToolWindow {
     void Form_Unload() override;
 
   protected:
-    void showEvent(QShowEvent* event) override;
     void done(int result) override;
 
   private:

@@ -23,7 +23,6 @@ frmInstrumentSelector::frmInstrumentSelector(const ToolContext& context, QWidget
     lst_Instrument_ = new ListBox("lst_Instrument", this);
     lst_Instrument_->Click = [this] { lst_Instrument_Click(); };
     Command1_ = named(new QPushButton(this), "Command1");
-    Command1_->setAutoDefault(false);
     Command2_ = named(new QPushButton(this), "Command2");
     Command2_->setDefault(true);
     tmrNoteStopper_ = new WindowTimer(
@@ -45,6 +44,7 @@ frmInstrumentSelector::frmInstrumentSelector(const ToolContext& context, QWidget
     column->addLayout(buttons);
     connect(Command1_, &QPushButton::clicked, this, [this] { sample(); });
     connect(Command2_, &QPushButton::clicked, this, [this] { accept(); });
+    setFirstFocus(lst_Instrument_);
     context_.bench.acts.add(*this);
 }
 
@@ -60,7 +60,6 @@ void frmInstrumentSelector::Form_Opened(int) {
     editor().refreshdrawing();
     showProgram();
     resize(sizeHint().expandedTo({300, 400}));
-    lst_Instrument_->setFocus();
 }
 
 void frmInstrumentSelector::actEnded(std::string_view, const Changes& changes) {

@@ -13,8 +13,6 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
-#include <algorithm>
-
 namespace tabrova {
 
 namespace {
@@ -59,29 +57,20 @@ void frmOptions::takeMessage(std::string_view name, const QString& text) {
 void frmOptions::Form_Opened(int tab) { OptionsTabs_->setCurrentIndex(tab); }
 
 void frmOptions::listLanguages() {
-    namespace fs = std::filesystem;
     std::error_code failed;
-    const fs::path folder = installedLanguages(services().programFolder);
-    fs::create_directory(folder, failed);
-    QStringList names;
-    for (fs::directory_iterator entry(folder, failed), end; !failed && entry != end;
-         entry.increment(failed)) {
-        std::error_code unknown;
-        if (entry->is_directory(unknown)) names.append(textOf(entry->path().filename()));
-    }
-    names.sort(Qt::CaseInsensitive);
-    lstLanguages_->clear();
-    lstLanguages_->addItems(names);
+    const std::filesystem::path folder = installedLanguages(services().programFolder);
+    std::filesystem::create_directory(folder, failed);
+    lstLanguages_->showFolder(folder);
 }
 
 // The active language goes even if no other one can take its place.
 void frmOptions::lstLanguages_DblClick() {
-    const QListWidgetItem* row = lstLanguages_->currentItem();
-    if (!row) return;
+    const std::filesystem::path name = lstLanguages_->chosenName();
+    if (name.empty()) return;
     std::error_code failed;
     const std::filesystem::path active = activeLanguageFile(services().programFolder);
     std::filesystem::remove(active, failed);
-    copyTextFile(installedLanguages(services().programFolder) / pathOf(row->text()) / "lang.trl", active);
+    copyTextFile(installedLanguages(services().programFolder) / name / "lang.trl", active);
     LoadLanguage();
     showSynthesizer();
     context_.commands.language.languageApplied();

@@ -3,8 +3,8 @@
 // Settings take effect at once.
 #pragma once
 
+#include "forms/folder_list.h"
 #include "organisers/options/options_rules.h"
-#include "platform/list_box.h"
 #include "workbench/tool_window.h"
 
 class QCheckBox;
@@ -71,7 +71,7 @@ class frmOptions : public ToolWindow {
     QCheckBox* chkSplash_;
     QCheckBox* Check1_;
     QCheckBox* Check2_;
-    ListBox* lstLanguages_;
+    FolderList* lstLanguages_;
 };
 
 } // namespace tabrova

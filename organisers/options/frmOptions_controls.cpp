@@ -3,9 +3,7 @@
 
 #include "forms/named.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
@@ -77,8 +75,6 @@ QGroupBox* frmOptions::buildSynthesizerBox() {
     lblSoundBank_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     cmdSoundBank_ = named(new QPushButton(box), "cmdSoundBank");
     cmdTestSound_ = named(new QPushButton(box), "cmdTestSound");
-    for (QPushButton* button : {cmdSoundBank_, cmdTestSound_})
-        button->setAutoDefault(false);
     auto* grid = new QGridLayout(box);
     grid->addWidget(named(new QLabel(box), "lblBankTitle"), 0, 0);
     grid->addWidget(lblSoundBank_, 0, 1);
@@ -100,7 +96,7 @@ QWidget* frmOptions::buildAppearanceTab() {
     chkSplash_ = named(new QCheckBox(tab), "chkSplash");
     Check2_ = named(new QCheckBox(tab), "Check2");
     Check2_->hide();
-    lstLanguages_ = new ListBox("lstLanguages", tab);
+    lstLanguages_ = new FolderList("lstLanguages", EntryKind::Folders, tab);
     auto* column = new QVBoxLayout(tab);
     column->setContentsMargins(Gap, Gap, Gap, Gap);
     column->addWidget(cursorBox);

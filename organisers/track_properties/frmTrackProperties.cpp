@@ -39,6 +39,7 @@ frmTrackProperties::frmTrackProperties(const ToolContext& context, QWidget* pare
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(4, 1);
     connectControls();
+    setFirstFocus(txtTrackName_);
     context_.bench.acts.add(*this);
 }
 
@@ -72,8 +73,6 @@ void frmTrackProperties::buildControls() {
     Command3_ = named(new QPushButton(this), "Command3");
     for (QLabel* label : {lblPatchDisplay_, lblTuning_, lblVolume_})
         label->setTextFormat(Qt::PlainText);
-    for (QPushButton* button : {Command9_, Command2_, Command1_})
-        button->setAutoDefault(false);
     Command3_->setDefault(true);
 }
 
@@ -111,8 +110,6 @@ void frmTrackProperties::Form_Load() {
     }
     showKindOfTrack();
     resize(sizeHint().expandedTo({420, 0}));
-    txtTrackName_->setFocus();
-    txtTrackName_->selectAll();
 }
 
 void frmTrackProperties::showPatch() {

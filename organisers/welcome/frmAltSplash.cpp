@@ -11,6 +11,7 @@ namespace {
 constexpr int PictureWidth = 520;
 constexpr int PictureHeight = 320;
 constexpr int OptionSize = 96;
+constexpr int DrawingSize = OptionSize - 8;
 constexpr int OptionTop = 132;
 constexpr int OptionGap = 22;
 constexpr int None = -1;
@@ -86,20 +87,25 @@ QPainterPath drawingOf(SplashChoice choice) {
     return cross();
 }
 
-class OptionImage : public QWidget {
+void paintDrawing(QPainter& painter, SplashChoice choice) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Ink, 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPath(drawingOf(choice));
+}
+
+// The highlight behind it is its mark of focus and pointer.
+class OptionImage : public PictureButton {
   public:
-    OptionImage(int index, QWidget* parent) : QWidget(parent), choice_(Options[index].choice) {
-        setObjectName(QString("imgOptions(%1)").arg(index));
+    OptionImage(int index, QWidget* parent)
+        : PictureButton(QString("imgOptions(%1)").arg(index), QIcon(), {DrawingSize, DrawingSize}, parent),
+          choice_(Options[index].choice) {
         setMouseTracking(true);
-        setFocusPolicy(Qt::StrongFocus);
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(Ink, 3.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter.drawPath(drawingOf(choice_));
+        paintDrawing(painter, choice_);
     }
 
   private:
@@ -142,15 +148,16 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
     setMouseTracking(true);
     // The picture itself has the keyboard at first, so that nothing is highlighted.
     setFocusPolicy(Qt::StrongFocus);
-    setFocus();
+    setFirstFocus(this);
     imgHighlight_ = new HighlightImage(this);
     imgHighlight_->hide();
     const int left = (PictureWidth - 4 * OptionSize - 3 * OptionGap) / 2;
     for (int i = 0; i < 4; ++i) {
-        imgOptions_[static_cast<std::size_t>(i)] = new OptionImage(i, this);
-        imgOptions_[static_cast<std::size_t>(i)]->setGeometry(left + i * (OptionSize + OptionGap), OptionTop,
-                                                              OptionSize, OptionSize);
-        imgOptions_[static_cast<std::size_t>(i)]->installEventFilter(this);
+        auto* image = new OptionImage(i, this);
+        image->setGeometry(left + i * (OptionSize + OptionGap), OptionTop, OptionSize, OptionSize);
+        image->installEventFilter(this);
+        image->Click = [this, i] { choose(Options[i].choice); };
+        imgOptions_[static_cast<std::size_t>(i)] = image;
     }
     lblTooltip_ = new QLabel(DefaultTooltip, this);
     lblTooltip_->setObjectName("lblTooltip");
@@ -222,22 +229,15 @@ bool frmAltSplash::eventFilter(QObject* watched, QEvent* event) {
         const QEvent::Type type = event->type();
         if (type == QEvent::Enter || type == QEvent::MouseMove || type == QEvent::FocusIn) highlight(i);
         if (type == QEvent::Leave) highlight(None);
-        const bool entered =
-            type == QEvent::KeyPress && (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Return ||
-                                         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space);
-        if (type == QEvent::MouseButtonPress || entered) {
-            choose(Options[i].choice);
-            return true;
-        }
     }
-    return QDialog::eventFilter(watched, event);
+    return ToolWindow::eventFilter(watched, event);
 }
 
 void frmAltSplash::mousePressEvent(QMouseEvent*) { choose(SplashChoice::CloseWindow); }
 
 void frmAltSplash::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) return choose(SplashChoice::CloseWindow);
-    QDialog::keyPressEvent(event);
+    ToolWindow::keyPressEvent(event);
 }
 
 } // namespace tabrova

@@ -2,6 +2,7 @@
 // that names what is there.
 #pragma once
 
+#include "forms/picture_button.h"
 #include "workbench/tool_window.h"
 
 #include <QLabel>

@@ -73,6 +73,20 @@ TEST_F(StructureEdits, ClearingTheFirstAndTheLastStaffLeavesTheOthers) {
     }
 }
 
+// A read that fails leaves a number of tracks that the grids do not have.
+TEST_F(StructureEdits, ClearingAllTracksClearsTheRowsOfAsManyTracksAsThereAreSaidToBe) {
+    for (const auto& [tracks, rows] : {std::pair{-32768, 0}, {0, 0}, {1, 6}, {2, 12}, {32767, 18}}) {
+        fill(3, 2);
+        place(2, 0, 1);
+        remember();
+        document.TrackCount = static_cast<std::int16_t>(tracks);
+        clearStaff(document, {Rows::AllTracks, true, true, true});
+        expectCells(
+            [rows = rows](int column, int row) { return column > 31 && row < rows ? EmptyNow : column; });
+        expectMarks([](int column) { return column > 31 ? EmptyNow : column; });
+    }
+}
+
 TEST_F(StructureEdits, ANoteOfAnyRowInTheLastColumnMakesAStaffForAllTracks) {
     for (int row = 0; row < 18; ++row) {
         makeDocument(document, 3, 2);

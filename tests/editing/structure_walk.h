@@ -159,10 +159,12 @@ class Walk : public Chooser {
     }
 
     void clear() {
-        const StaffClear what = {rows(), oneIn(2), oneIn(2), oneIn(2)};
-        said << "clear" << name(what.rows) << what.notes << what.techniques << what.barMarks;
+        const StaffClear what = {rows(), {oneIn(2), oneIn(2), oneIn(2)}};
+        said << "clear" << name(what.rows) << what.parts.notes << what.parts.techniques
+             << what.parts.barMarks;
         clearStaff(document, what);
-        model.clear(what.rows == Rows::AllTracks, what.notes, what.techniques, what.barMarks);
+        model.clear(what.rows == Rows::AllTracks, what.parts.notes, what.parts.techniques,
+                    what.parts.barMarks);
     }
 
     void removeColumn() {

@@ -113,6 +113,38 @@ TEST_F(Lists, TakeReturnAndEnterForADoubleClickAndNoOtherKey) {
     EXPECT_EQ(rows, std::vector<int>{1});
 }
 
+TEST_F(Lists, TakeNoReturnThatIsHeldDownForADoubleClick) {
+    int doubles = 0;
+    list.DoubleClick = [&doubles] { ++doubles; };
+    list.setCurrentRow(0);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, "\r", true);
+        QApplication::sendEvent(&list, &held);
+        EXPECT_TRUE(held.isAccepted());
+    }
+    EXPECT_EQ(doubles, 0);
+}
+
+TEST_F(Lists, ShowWhereTheKeyboardIsAlsoWhenThereIsNoRow) {
+    list.clear();
+    list.activateWindow();
+    list.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return list.hasFocus(); }));
+    const QImage with = list.grab().toImage();
+    list.clearFocus();
+    const QImage without = list.grab().toImage();
+    EXPECT_TRUE(with != without);
+    EXPECT_TRUE(with.copy(20, 20, 160, 160) == without.copy(20, 20, 160, 160)); // only at its edge
+    list.setFocus();
+    list.addItems({"a", "b"}); // still no row of them has the keyboard
+    ASSERT_EQ(list.currentRow(), -1);
+    const QImage rowless = list.grab().toImage();
+    list.setCurrentRow(0, QItemSelectionModel::NoUpdate);
+    const QImage rowed = list.grab().toImage();
+    EXPECT_EQ(rowless.pixel(100, 198 - 1), with.pixel(100, 198 - 1));
+    EXPECT_EQ(rowed.copy(0, 100, 200, 100), without.copy(0, 100, 200, 100)); // the row has the mark
+}
+
 TEST_F(Lists, TakeTheRowUnderADoubleClickThatComesWithoutAPress) {
     int row = -1;
     list.DoubleClick = [&] { row = list.chosenRow(); };

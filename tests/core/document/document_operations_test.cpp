@@ -366,30 +366,6 @@ TEST(GetCurrentXPosition, ReachesTheLastColumnOfTheLargestDocument) {
     EXPECT_EQ(document.CurrentColumn, 32767 * 32 - 1);
 }
 
-TEST(ClearStaff, EmptiesTheCurrentStaffOfAllTracksAndNoOther) {
-    Document document;
-    makeDocument(document, 2, 3);
-    for (int column = 0; column < 96; ++column) {
-        for (int row = 0; row < 12; ++row) {
-            document.setNote(column, row, "5");
-            document.setTechnique(column, row, "h");
-        }
-        document.setBarMark(column, ".");
-    }
-    document.CurrentStaff = 2;
-    document.ColumnInStaff = 17;
-    document.CurrentTrack = 2;
-    ClearStaffallall(document);
-    for (int column = 0; column < 96; ++column) {
-        const bool cleared = column >= 32 && column < 64;
-        EXPECT_EQ(document.barMark(column), cleared ? "" : ".") << column;
-        for (int row = 0; row < 12; ++row) {
-            EXPECT_EQ(document.note(column, row), cleared ? "" : "5") << column;
-            EXPECT_EQ(document.technique(column, row), cleared ? "" : "h") << column;
-        }
-    }
-}
-
 TEST(Cells, OutsideTheArraysAreEmptyAndTakeNothing) {
     Document document;
     makeDocument(document, 1, 1);

@@ -89,6 +89,7 @@ TEST_F(OptionsControls, OfTheSynthesizer) {
     EXPECT_TRUE(at<QLabel>("lblSoundTrouble").wordWrap());
     // A long name of a bank does not widen the window.
     EXPECT_EQ(at("lblSoundBank").sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+    load();
     for (const char* button : {"cmdSoundBank", "cmdTestSound"})
         EXPECT_FALSE(at<QPushButton>(button).autoDefault()) << button;
 }
