@@ -4,6 +4,7 @@
 #include "forms/tab_order.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -18,18 +19,31 @@ bool isReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
-// A default button would press itself again and again while the key is held down, perhaps from before it was
+// Takes Return and Enter before a control does. On some desktops they check a box and open a list, and a
+// default button would press itself again and again while the key is held down, perhaps from before it was
 // there.
-class HeldKeys : public QObject {
+class ReturnKey : public QObject {
   public:
-    using QObject::QObject;
+    ReturnKey(std::function<void(QKeyEvent*)> take, QObject* parent)
+        : QObject(parent), take_(std::move(take)) {}
 
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        return key.isAutoRepeat() && isReturn(key);
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (!isReturn(*key)) return false;
+        take_(key);
+        return true;
     }
+
+  private:
+    std::function<void(QKeyEvent*)> take_;
 };
+
+// A list that one can type into takes the typed text at Return.
+bool leavesReturnToTheForm(QWidget* control) {
+    const auto* list = qobject_cast<QComboBox*>(control);
+    return list ? !list->isEditable() : qobject_cast<QAbstractButton*>(control) != nullptr;
+}
 
 // Return checks no box: it presses only buttons that act.
 QAbstractButton* pressedByReturn(QWidget* control) {
@@ -48,7 +62,8 @@ bool canHaveFocus(const QWidget* control) { return control && control->isVisible
 } // namespace
 
 Form::Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent)
-    : QDialog(parent), programFolder_(programFolder), heldKeys_(new HeldKeys(this)) {
+    : QDialog(parent), programFolder_(programFolder),
+      returnKey_(new ReturnKey([this](QKeyEvent* event) { keyPressEvent(event); }, this)) {
     setObjectName(name);
 }
 
@@ -63,14 +78,13 @@ void Form::takeMessage(std::string_view, const QString&) {}
 // The toolkit would make the first push button the default one, and the one that last had the focus after it;
 // a text with a tag in it would be markup.
 void Form::settleControls() {
-    for (QPushButton* button : findChildren<QPushButton*>()) {
-        if (button->window() != this) continue;
-        button->setAutoDefault(false);
-        button->installEventFilter(heldKeys_);
+    for (QWidget* control : findChildren<QWidget*>()) {
+        if (control->window() != this) continue;
+        if (auto* button = qobject_cast<QPushButton*>(control)) button->setAutoDefault(false);
+        if (leavesReturnToTheForm(control)) control->installEventFilter(returnKey_);
+        auto* label = qobject_cast<QLabel*>(control);
+        if (label && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);
     }
-    for (QLabel* label : findChildren<QLabel*>())
-        if (label->window() == this && label->textFormat() == Qt::AutoText)
-            label->setTextFormat(Qt::PlainText);
 }
 
 void Form::showEvent(QShowEvent* event) {

@@ -49,7 +49,7 @@ class Form : public QDialog {
 
     std::filesystem::path programFolder_;
     QPointer<QWidget> firstFocus_;
-    QObject* heldKeys_;
+    QObject* returnKey_;
 };
 
 } // namespace tabrova

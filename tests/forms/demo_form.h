@@ -30,6 +30,7 @@ class DemoForm : public Form {
     }
     // Shows it and gives it the keyboard, as a desktop does.
     void present() {
+        QApplication::processEvents(); // a hiding before
         show();
         activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(this));

@@ -125,6 +125,45 @@ TEST_F(FormKeys, ReturnElsewherePressesTheDefaultButton) {
     }
 }
 
+// As controls do on some desktops.
+template <class Control>
+class UsesReturn : public Control {
+  public:
+    using Control::Control;
+    int used = 0;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return) ++used;
+    }
+};
+
+TEST_F(FormKeys, ReturnIsTheFormsWhateverIsTheHabitOfTheDesktop) {
+    make();
+    auto* push = button<UsesReturn<QPushButton>>("push");
+    auto* tool = button<UsesReturn<QToolButton>>("tool");
+    auto* check = button<UsesReturn<QCheckBox>>("check");
+    auto* choice = button<UsesReturn<QRadioButton>>("choice");
+    auto* combo = form->add<UsesReturn<QComboBox>>("combo");
+    button<QPushButton>("default")->setDefault(true);
+    form->present();
+    for (QWidget* control : QList<QWidget*>{push, tool, check, choice, combo}) {
+        control->setFocus();
+        form->press(Qt::Key_Return);
+        form->press(Qt::Key_Return, Qt::ControlModifier);
+        form->hold(Qt::Key_Return);
+    }
+    EXPECT_EQ(pressed, (QStringList{"push", "tool", "default", "default", "default"}));
+    EXPECT_EQ(push->used + tool->used + check->used + choice->used + combo->used, 0);
+    auto* typed = form->add<UsesReturn<QComboBox>>("typed");
+    typed->setEditable(true);
+    form->hide();
+    form->present();
+    typed->setFocus();
+    form->press(Qt::Key_Return);
+    EXPECT_EQ(typed->used, 1);
+}
+
 TEST_F(FormKeys, ReturnElsewhereDoesNothingWithoutADefaultButton) {
     make();
     form->add<QLineEdit>("line");
