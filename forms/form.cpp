@@ -24,19 +24,20 @@ bool isReturn(const QKeyEvent& event) {
 // there.
 class ReturnKey : public QObject {
   public:
-    ReturnKey(std::function<void(QKeyEvent*)> take, QObject* parent)
-        : QObject(parent), take_(std::move(take)) {}
+    using Take = std::function<void(QWidget* control, const QKeyEvent& event)>;
 
-    bool eventFilter(QObject*, QEvent* event) override {
+    ReturnKey(Take take, QObject* parent) : QObject(parent), take_(std::move(take)) {}
+
+    bool eventFilter(QObject* control, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (!isReturn(*key)) return false;
-        take_(key);
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (!isReturn(key)) return false;
+        take_(qobject_cast<QWidget*>(control), key);
         return true;
     }
 
   private:
-    std::function<void(QKeyEvent*)> take_;
+    Take take_;
 };
 
 // A list that one can type into takes the typed text at Return.
@@ -63,7 +64,8 @@ bool canHaveFocus(const QWidget* control) { return control && control->isVisible
 
 Form::Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent)
     : QDialog(parent), programFolder_(programFolder),
-      returnKey_(new ReturnKey([this](QKeyEvent* event) { keyPressEvent(event); }, this)) {
+      returnKey_(new ReturnKey(
+          [this](QWidget* control, const QKeyEvent& event) { takeReturn(control, event); }, this)) {
     setObjectName(name);
 }
 
@@ -109,19 +111,15 @@ bool Form::focusNextPrevChild(bool next) {
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {
-    const bool escape = event->matches(QKeySequence::Cancel);
-    const bool entered = isReturn(*event) && !(event->modifiers() & ~Qt::KeypadModifier);
-    if (!escape && !entered) return event->ignore();
-    if (event->isAutoRepeat()) return;
-    if (escape) {
-        close();
-    } else {
-        pressByReturn();
-    }
+    const bool alone = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (isReturn(*event) && alone) return takeReturn(focusWidget(), *event);
+    if (!event->matches(QKeySequence::Cancel)) return event->ignore();
+    if (!event->isAutoRepeat()) close();
 }
 
-void Form::pressByReturn() {
-    QAbstractButton* button = pressedByReturn(focusWidget());
+void Form::takeReturn(QWidget* control, const QKeyEvent& event) {
+    if (event.isAutoRepeat() || event.modifiers() & ~Qt::KeypadModifier) return;
+    QAbstractButton* button = pressedByReturn(control);
     if (!button) button = defaultButton(*this);
     if (button) button->click();
 }

@@ -45,7 +45,8 @@ class Form : public QDialog {
     // Controls that were made since the last time behave as all do.
     void settleControls();
     void focusFirst();
-    void pressByReturn();
+    // Presses the control, if it is a button, or the default button.
+    void takeReturn(QWidget* control, const QKeyEvent& event);
 
     std::filesystem::path programFolder_;
     QPointer<QWidget> firstFocus_;
