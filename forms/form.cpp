@@ -24,15 +24,14 @@ bool isReturn(const QKeyEvent& event) {
 // there.
 class ReturnKey : public QObject {
   public:
-    using Take = std::function<void(QWidget* control, const QKeyEvent& event)>;
-
+    using Take = std::function<void(QWidget* at, QKeyEvent* event)>;
     ReturnKey(Take take, QObject* parent) : QObject(parent), take_(std::move(take)) {}
 
-    bool eventFilter(QObject* control, QEvent* event) override {
+    bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() != QEvent::KeyPress) return false;
-        const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (!isReturn(key)) return false;
-        take_(qobject_cast<QWidget*>(control), key);
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (!isReturn(*key)) return false;
+        take_(qobject_cast<QWidget*>(watched), key);
         return true;
     }
 
@@ -64,8 +63,7 @@ bool canHaveFocus(const QWidget* control) { return control && control->isVisible
 
 Form::Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent)
     : QDialog(parent), programFolder_(programFolder),
-      returnKey_(new ReturnKey(
-          [this](QWidget* control, const QKeyEvent& event) { takeReturn(control, event); }, this)) {
+      returnKey_(new ReturnKey([this](QWidget* at, QKeyEvent* event) { takeReturn(at, event); }, this)) {
     setObjectName(name);
 }
 
@@ -111,15 +109,15 @@ bool Form::focusNextPrevChild(bool next) {
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {
-    const bool alone = !(event->modifiers() & ~Qt::KeypadModifier);
-    if (isReturn(*event) && alone) return takeReturn(focusWidget(), *event);
+    if (isReturn(*event)) return takeReturn(focusWidget(), event);
     if (!event->matches(QKeySequence::Cancel)) return event->ignore();
     if (!event->isAutoRepeat()) close();
 }
 
-void Form::takeReturn(QWidget* control, const QKeyEvent& event) {
-    if (event.isAutoRepeat() || event.modifiers() & ~Qt::KeypadModifier) return;
-    QAbstractButton* button = pressedByReturn(control);
+void Form::takeReturn(QWidget* at, QKeyEvent* event) {
+    if (event->modifiers() & ~Qt::KeypadModifier) return event->ignore();
+    if (event->isAutoRepeat()) return;
+    QAbstractButton* button = pressedByReturn(at);
     if (!button) button = defaultButton(*this);
     if (button) button->click();
 }

@@ -45,8 +45,8 @@ class Form : public QDialog {
     // Controls that were made since the last time behave as all do.
     void settleControls();
     void focusFirst();
-    // Presses the control, if it is a button, or the default button.
-    void takeReturn(QWidget* control, const QKeyEvent& event);
+    // Return or Enter at this control.
+    void takeReturn(QWidget* at, QKeyEvent* event);
 
     std::filesystem::path programFolder_;
     QPointer<QWidget> firstFocus_;

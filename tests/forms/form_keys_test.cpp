@@ -95,6 +95,16 @@ TEST_F(FormKeys, ReturnAndEnterPressTheButtonThatHasTheFocus) {
     }
 }
 
+TEST_F(FormKeys, ReturnThatIsSentToAButtonPressesItWhereverTheFocusIs) {
+    make();
+    button<QPushButton>("first");
+    auto* other = button<QPushButton>("other");
+    form->present();
+    QTest::keyClick(other, Qt::Key_Return);
+    EXPECT_EQ(form->focus(), "first");
+    EXPECT_EQ(pressed, QStringList{"other"});
+}
+
 TEST_F(FormKeys, ReturnPressesTheFocusedButtonOnceAlsoIfItIsTheDefaultOne) {
     make();
     button<QPushButton>("default")->setDefault(true);

@@ -171,6 +171,18 @@ TEST_F(Forms, MayBeDeletedWhenTheySayIt) {
     }
 }
 
+TEST_F(Forms, MayBeDeletedByTheReturnThatPressesTheirButton) {
+    for (const auto key : {Qt::Key_Return, Qt::Key_Space}) {
+        make();
+        auto* done = button<QPushButton>("done");
+        QObject::connect(done, &QPushButton::clicked, form.get(), [this] { form->close(); });
+        form->closed = [this] { form.reset(); };
+        form->present();
+        form->press(key);
+        EXPECT_EQ(form, nullptr);
+    }
+}
+
 TEST_F(Forms, DeletedBySomebodyElseAtTheirEndSayNothing) {
     make().present();
     QObject::connect(form.get(), &QDialog::finished, form.get(), [this] { form.reset(); });
