@@ -75,16 +75,14 @@ function(tabrova_room name)
     target_link_libraries(${name} PUBLIC ${ARG_USES})
 endfunction()
 
-# Every sub-folder of this one is a tool window's room, which no other tool sees. All of them together have the name of
-# this folder.
-function(tabrova_tools)
-    cmake_path(GET CMAKE_CURRENT_SOURCE_DIR FILENAME all)
+# Every sub-folder of these is a tool window's room, which no other tool sees. All of them together have the folder's name.
+function(tabrova_tools all)
+    file(GLOB tools LIST_DIRECTORIES true RELATIVE ${CMAKE_SOURCE_DIR}/${all} CONFIGURE_DEPENDS
+        ${CMAKE_SOURCE_DIR}/${all}/*)
     add_library(${all} INTERFACE)
-    file(GLOB tools LIST_DIRECTORIES true RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} CONFIGURE_DEPENDS
-        ${CMAKE_CURRENT_SOURCE_DIR}/*)
     foreach(tool IN LISTS tools)
-        if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${tool})
-            tabrova_room(${all}_${tool} FOLDER ${tool}
+        if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/${all}/${tool})
+            tabrova_room(${all}_${tool} FOLDER ${all}/${tool}
                 USES core platform tabview sound editing forms workbench Qt6::Widgets)
             tabrova_qt_headers(${all}_${tool})
             target_link_libraries(${all} INTERFACE ${all}_${tool})

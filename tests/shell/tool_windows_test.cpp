@@ -178,12 +178,15 @@ TEST_F(WindowTable, BringsTheMainWindowIntoView) {
 }
 
 // The program's own table.
-TEST(ToolTable, NamesEveryWindowByItsOwnName) {
-    std::set<std::string> names;
-    for (const ToolRow& row : toolRows())
+TEST(ToolTable, HasEachWindowAndEachItemOnce) {
+    std::set<std::string> names, items;
+    for (const ToolRow& row : toolRows()) {
         EXPECT_TRUE(names.insert(row.form).second) << row.form;
-    EXPECT_EQ(names, (std::set<std::string>{"frmAbout", "frmAltSplash", "frmFileProperties",
-                                            "frmInstrumentSelector", "frmOptions", "frmTrackProperties"}));
+        EXPECT_TRUE(*row.item == '\0' || items.insert(row.item).second) << row.item;
+    }
+    for (const char* form : {"frmAbout", "frmAltSplash", "frmFileProperties", "frmInstrumentSelector",
+                             "frmOptions", "frmTrackProperties"})
+        EXPECT_TRUE(names.contains(form)) << form;
 }
 
 using OwnTable = ToolBench;
