@@ -1,6 +1,7 @@
 // The program: `tabrova [DOCUMENT]`.
 #include "app/command_line.h"
 #include "app/program.h"
+#include "platform/desktop_services.h"
 #include "platform/end_signals.h"
 #include "platform/paths.h"
 #include "platform/session_end.h"
@@ -35,43 +36,19 @@ tabrova::CommandLine read(int argc, char** argv) {
     return tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
 }
 
-// The outside services of this user's desktop.
-struct DesktopServices {
-    tabrova::DesktopMessageBoxes boxes;
-    tabrova::DesktopFileChooser files;
-    tabrova::DesktopAddressOpener addresses;
-    tabrova::DesktopSystemInformation systemInformation;
-    tabrova::DesktopSettingsStore settings;
-    tabrova::DesktopTextPrinter printer;
-    std::filesystem::path folder = tabrova::ownFolder();
-    tabrova::FluidSynthesizer synthesizer{bankPlaces(settings, folder)};
-    tabrova::SystemMidiDevice midi{synthesizer};
-    tabrova::SystemTimerService timerService;
-    tabrova::TimerList timers;
-    tabrova::SystemRandomness randomness;
-    tabrova::Services all{boxes,
-                          files,
-                          addresses,
-                          systemInformation,
-                          settings,
-                          printer,
-                          midi,
-                          timerService,
-                          timers,
-                          synthesizer,
-                          randomness,
-                          folder,
-                          [] { std::_Exit(1); }};
-};
-
 // Runs the program; `code` is its exit code. False if a server has not let go of what it was asked.
 bool run(int argc, char** argv, int& code) {
     tabrova::prepareToolkit();
     QApplication application(argc, argv);
     const tabrova::EndSignals endSignals([] { QCoreApplication::exit(0); });
     tabrova::keepToolkitInsideHome();
-    DesktopServices services;
-    tabrova::frmMain window(services.all);
+    tabrova::DesktopSettingsStore settings;
+    const std::filesystem::path folder = tabrova::ownFolder();
+    tabrova::FluidSynthesizer synthesizer(bankPlaces(settings, folder));
+    tabrova::SystemMidiDevice midi(synthesizer);
+    tabrova::DesktopServices desktop;
+    tabrova::Services services = desktop.services(settings, midi, synthesizer, folder, [] { std::_Exit(1); });
+    tabrova::frmMain window(services);
     const tabrova::SessionEnd session([&window] { return window.commands().documents.confirmLeaving(); });
     window.resizeClient(1000, 700);
     window.show();
@@ -82,7 +59,7 @@ bool run(int argc, char** argv, int& code) {
     code = QApplication::exec();
     window.endInOrder();
     window.hide();
-    return services.midi.settles(EndTime);
+    return midi.settles(EndTime);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // From a key press on the page to the first sample of its note at the recorder: the real window, the built-in
 // synthesizer, the server that scripts/with_sound_server starts. The recorder's own delay is part of the
 // figure. The yardstick is one period of the audio output, 512 frames at 48 kHz.
+#include "platform/desktop_services.h"
 #include "shell/frmMain.h"
 #include "sound/devices/system_midi_device.h"
 
@@ -21,30 +22,11 @@ constexpr int Threshold = 64; // of 32768
 constexpr double PeriodSeconds = 512.0 / 48000.0;
 
 struct Program {
-    DesktopMessageBoxes boxes;
-    DesktopFileChooser files;
-    DesktopAddressOpener addresses;
-    DesktopSystemInformation systemInformation;
+    DesktopServices desktop;
     MemorySettingsStore settings;
-    DesktopTextPrinter printer;
     FluidSynthesizer synthesizer{{{}, {}, {}, systemBankFolders()}};
     SystemMidiDevice midi{synthesizer};
-    SystemTimerService timerService;
-    TimerList timers;
-    SystemRandomness randomness;
-    Services services{boxes,
-                      files,
-                      addresses,
-                      systemInformation,
-                      settings,
-                      printer,
-                      midi,
-                      timerService,
-                      timers,
-                      synthesizer,
-                      randomness,
-                      {},
-                      [] { std::abort(); }};
+    Services services = desktop.services(settings, midi, synthesizer, {}, [] { std::abort(); });
     frmMain window{services};
 
     Program() {

@@ -2,6 +2,7 @@
 // image.
 #include "bench/large_document.h"
 #include "core/document/document_operations.h"
+#include "platform/desktop_services.h"
 #include "shell/frmMain.h"
 
 #include <benchmark/benchmark.h>
@@ -47,30 +48,11 @@ void measureAgainstCopy(benchmark::State& state, Work work) {
 
 // A whole program without a desktop.
 struct Program {
-    DesktopMessageBoxes boxes;
-    DesktopFileChooser files;
-    DesktopAddressOpener addresses;
-    DesktopSystemInformation systemInformation;
+    DesktopServices desktop;
     MemorySettingsStore settings;
-    DesktopTextPrinter printer;
     RecordingMidiDevice midi;
-    SystemTimerService timerService;
-    TimerList timers;
-    SystemRandomness randomness;
     RecordingSynthesizer synthesizer;
-    Services services{boxes,
-                      files,
-                      addresses,
-                      systemInformation,
-                      settings,
-                      printer,
-                      midi,
-                      timerService,
-                      timers,
-                      synthesizer,
-                      randomness,
-                      {},
-                      [] { std::abort(); }};
+    Services services = desktop.services(settings, midi, synthesizer, {}, [] { std::abort(); });
     frmMain window{services};
 
     Program() {

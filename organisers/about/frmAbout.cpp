@@ -10,38 +10,39 @@ namespace tabrova {
 
 frmAbout::frmAbout(const ToolContext& context, QWidget* parent) : ToolWindow("frmAbout", context, parent) {
     setWindowModality(Qt::WindowModal);
-    auto* title = new QLabel("Tabrova", this);
-    QFont large = title->font();
-    large.setPointSizeF(large.pointSizeF() * 1.8);
-    large.setBold(true);
-    title->setFont(large);
-    auto* version = new QLabel("Version 3.0", this);
-    version->setObjectName("lblVersion");
-    auto* credits = named(new QLabel(this), "lblCredits");
-    credits->setWordWrap(true);
-    credits->setMinimumWidth(340);
     sequencer_ = named(new QLabel(this), "lblSequencer");
     sequencer_->setTextFormat(Qt::RichText); // a link around the plain text
     sequencer_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    connect(sequencer_, &QLabel::linkActivated, this, [this] { openAuthorsPage(); });
     auto* cmdSysInfo = named(new QPushButton(this), "cmdSysInfo");
     auto* cmdOK = named(new QPushButton(this), "cmdOK");
     cmdOK->setDefault(true);
+    setFirstFocus(cmdOK);
+    connect(sequencer_, &QLabel::linkActivated, this, [this] { openAuthorsPage(); });
     connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
     connect(cmdSysInfo, &QPushButton::clicked, this, [this] { startSystemInformationTool(); });
-
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(24, 20, 24, 20);
     grid->setVerticalSpacing(10);
-    grid->addWidget(title, 0, 0, 1, 3);
-    grid->addWidget(version, 1, 0, 1, 3);
-    grid->addWidget(credits, 2, 0, 1, 3);
+    addTexts(*grid);
     grid->addWidget(sequencer_, 3, 0, 1, 3);
     grid->setRowMinimumHeight(4, 12);
     grid->addWidget(cmdSysInfo, 5, 1);
     grid->addWidget(cmdOK, 5, 2);
     grid->setColumnStretch(0, 1);
-    setFirstFocus(cmdOK);
+}
+
+void frmAbout::addTexts(QGridLayout& grid) {
+    auto* title = new QLabel("Tabrova", this);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 1.8);
+    large.setBold(true);
+    title->setFont(large);
+    auto* credits = named(new QLabel(this), "lblCredits");
+    credits->setWordWrap(true);
+    credits->setMinimumWidth(340);
+    grid.addWidget(title, 0, 0, 1, 3);
+    grid.addWidget(named(new QLabel("Version 3.0", this), "lblVersion"), 1, 0, 1, 3);
+    grid.addWidget(credits, 2, 0, 1, 3);
 }
 
 void frmAbout::takeMessage(std::string_view, const QString& text) {

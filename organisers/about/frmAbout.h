@@ -3,6 +3,7 @@
 
 #include "workbench/tool_window.h"
 
+class QGridLayout;
 class QLabel;
 
 namespace tabrova {
@@ -15,6 +16,7 @@ class frmAbout : public ToolWindow {
     void takeMessage(std::string_view name, const QString& text) override;
 
   private:
+    void addTexts(QGridLayout& grid);
     void openAuthorsPage();
     void startSystemInformationTool();
 
