@@ -55,6 +55,18 @@ TEST_F(ProgramSteps, StartInTheirOrder) {
     EXPECT_EQ(bench.texts.trackPanel, "Untitled Track selected (Click here to change)");
 }
 
+TEST_F(ProgramSteps, TheInstrumentsShowTheProgramOfTheNewTrack) {
+    struct Listener : ActObserver {
+        explicit Listener(Acts& itsActs) : acts(itsActs) { acts.add(*this); }
+        ~Listener() override { acts.remove(*this); }
+        void actEnded(std::string_view, const Changes& changes) override { chosen += changes.trackChosen; }
+        Acts& acts;
+        int chosen = 0;
+    } listener(bench.acts);
+    program.Form_Load({}, Splash::Never);
+    EXPECT_EQ(listener.chosen, 1);
+}
+
 TEST_F(ProgramSteps, ThePageIsAsHighAsTheStavesThatItShowsLeaveIt) {
     program.Form_Load({}, Splash::Never);
     EXPECT_EQ(bench.view.picDocument.height(), 676 - 204 - 24);
