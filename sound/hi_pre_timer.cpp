@@ -59,7 +59,7 @@ bool ctlHiPreTimer::start() {
     timerId_ = service_.timeSetEvent(Interval_, Resolution_, postTick, window,
                                      Periodic_ ? TIME_PERIODIC : TIME_ONESHOT);
     const bool started = timerId_ != 0;
-    if (frozen()) stop();
+    if (frozen()) runClock(); // also what it has posted already
     return started;
 }
 
