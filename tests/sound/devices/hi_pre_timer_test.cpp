@@ -28,12 +28,16 @@ class WritingService : public TimerService {
         user = data;
         return failing ? 0 : ++lastId;
     }
-    void timeKillEvent(std::uint32_t id) override { log.push_back("kill " + std::to_string(id)); }
+    void timeKillEvent(std::uint32_t id) override {
+        log.push_back("kill " + std::to_string(id));
+        if (hasty) callback(user);
+    }
 
     std::vector<std::string> takeLog() { return std::exchange(log, {}); }
 
     mutable int capsAsked = 0;
     bool failing = false;
+    bool hasty = false; // has posted a tick by the time it is stopped
     std::uint32_t lastId = 0;
     std::vector<std::string> log;
     TimeCallback callback = nullptr;
@@ -222,6 +226,17 @@ TEST_F(HiPreTimer, TakesATypedLineFeedForATickAndNoOtherCharacter) {
     QTest::sendKeyEvent(QTest::Press, &timer, Qt::Key_7, QString("7"), Qt::NoModifier);
     QTest::sendKeyEvent(QTest::Press, &timer, Qt::Key_Escape, QString("\x1b"), Qt::NoModifier);
     EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(HiPreTimer, DeliversNothingOfAStartWhileTheListIsFrozen) {
+    service.hasty = true;
+    list.setFrozen(true);
+    int ticks = 0;
+    timer.Timer = [&ticks] { ++ticks; };
+    timer.setEnabledProperty(true);
+    EXPECT_TRUE(timer.Enabled());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ticks, 0);
 }
 
 TEST_F(HiPreTimer, TicksOnlyByHandWhileTheListIsFrozen) {
