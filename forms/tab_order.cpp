@@ -103,7 +103,7 @@ QWidget* tabStop(const QWidget& form, const QWidget* at, TabStep step) {
     if (step == TabStep::Previous) std::reverse(controls.begin(), controls.end());
     const std::ptrdiff_t position = positionOf(controls, at);
     // What follows `at` first, then what stands before it.
-    std::rotate(controls.begin(), controls.begin() + position + 1, controls.end());
+    std::rotate(controls.begin(), controls.begin() + (position + 1), controls.end());
     if (position >= 0) controls.pop_back();
     const auto found = std::find_if(controls.begin(), controls.end(),
                                     [&form](const QWidget* control) { return isTabStop(*control, form); });
