@@ -5,21 +5,33 @@
 
 namespace tabrova {
 
+void Acts::remove(ActObserver& observer) {
+    std::ranges::replace(observers_, &observer, static_cast<ActObserver*>(nullptr));
+    if (telling_ == 0) std::erase(observers_, nullptr);
+}
+
+// An observer may act itself, or come and go, when it is told: what it does then is an act of its own, and
+// who comes hears of the next one.
+template <class Tell>
+void Acts::tell(Tell tellOne) {
+    ++telling_;
+    const std::size_t count = observers_.size();
+    for (std::size_t i = 0; i < count; ++i)
+        if (observers_[i]) tellOne(*observers_[i]);
+    if (--telling_ == 0) std::erase(observers_, nullptr);
+}
+
 void Acts::begin(std::string_view name) {
     if (depth_++ > 0) return;
     name_ = name;
-    for (std::size_t i = 0; i < observers_.size(); ++i)
-        observers_[i]->actBegins(name);
+    tell([name](ActObserver& observer) { observer.actBegins(name); });
 }
 
-// An observer may act itself, or come and go, when it is told: what it does then is an act of its own.
 void Acts::end() {
     if (--depth_ > 0) return;
     const Changes changes = std::exchange(changes_, {});
     const std::string_view name = name_;
-    const std::vector<ActObserver*> told = observers_;
-    for (ActObserver* observer : told)
-        if (std::ranges::find(observers_, observer) != observers_.end()) observer->actEnded(name, changes);
+    tell([&changes, name](ActObserver& observer) { observer.actEnded(name, changes); });
 }
 
 } // namespace tabrova

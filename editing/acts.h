@@ -59,7 +59,7 @@ class Acts {
   public:
     // An observer takes itself out before it goes.
     void add(ActObserver& observer) { observers_.push_back(&observer); }
-    void remove(ActObserver& observer) { std::erase(observers_, &observer); }
+    void remove(ActObserver& observer);
 
     // Of the act under way.
     Changes& changes() { return changes_; }
@@ -68,8 +68,11 @@ class Acts {
     friend class Act;
     void begin(std::string_view name);
     void end();
+    template <class Tell>
+    void tell(Tell tellOne);
 
-    std::vector<ActObserver*> observers_;
+    std::vector<ActObserver*> observers_; // nullptr for one that went while the others were told
+    int telling_ = 0;
     std::string_view name_;
     Changes changes_;
     int depth_ = 0;
