@@ -34,4 +34,14 @@ void Acts::end() {
     tell([&changes, name](ActObserver& observer) { observer.actEnded(name, changes); });
 }
 
+ActInterlude::ActInterlude(Acts& acts)
+    : acts_(acts), name_(acts.name_), changes_(std::exchange(acts.changes_, {})),
+      depth_(std::exchange(acts.depth_, 0)) {}
+
+ActInterlude::~ActInterlude() {
+    acts_.name_ = name_;
+    acts_.changes_ = changes_;
+    acts_.depth_ = depth_;
+}
+
 } // namespace tabrova

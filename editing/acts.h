@@ -66,6 +66,7 @@ class Acts {
 
   private:
     friend class Act;
+    friend class ActInterlude;
     void begin(std::string_view name);
     void end();
     template <class Tell>
@@ -88,6 +89,21 @@ class Act {
 
   private:
     Acts& acts_;
+};
+
+// While it lives the act under way waits, as for the user's answer: what happens meanwhile is told by itself.
+class ActInterlude {
+  public:
+    explicit ActInterlude(Acts& acts);
+    ~ActInterlude();
+    ActInterlude(const ActInterlude&) = delete;
+    ActInterlude& operator=(const ActInterlude&) = delete;
+
+  private:
+    Acts& acts_;
+    std::string_view name_;
+    Changes changes_;
+    int depth_;
 };
 
 } // namespace tabrova

@@ -25,15 +25,21 @@ void TrackCommands::AddTrack() {
     if (player_.playing) return;
     const Act act(parts_.acts, "AddTrack");
     if (!growByOneTrack(document_)) return;
-    const BoxAnswer answer = boxes_.ask({BoxTitle,
-                                         QString::fromStdString(parts_.words.percussionQuestion),
-                                         BoxIcon::Question,
-                                         {BoxAnswer::Yes, BoxAnswer::No}});
+    const BoxAnswer answer = askForKind();
     const int row = appendTrackRows(document_);
     parts_.acts.changes().tracks = true;
     TrackNames_Click(row);
     finishNewTrack(document_, answer == BoxAnswer::No);
     editor_.refreshdrawing();
+}
+
+// The window may be resized, and must follow, while the box is open.
+BoxAnswer TrackCommands::askForKind() {
+    const ActInterlude interlude(parts_.acts);
+    return boxes_.ask({BoxTitle,
+                       QString::fromStdString(parts_.words.percussionQuestion),
+                       BoxIcon::Question,
+                       {BoxAnswer::Yes, BoxAnswer::No}});
 }
 
 void TrackCommands::mnuKillTrack() {

@@ -42,6 +42,8 @@ class TrackCommands {
     void showTrackPanel();
 
   private:
+    BoxAnswer askForKind();
+
     EditingParts parts_;
     Document& document_;
     Editor& editor_;

@@ -71,6 +71,27 @@ TEST_F(ActsTest, ActsInsideAnActBelongToIt) {
     EXPECT_TRUE(one.last.strip && one.last.title);
 }
 
+TEST_F(ActsTest, WhatHappensInAnInterludeIsToldByItselfAndTheActGoesOn) {
+    Listener one(acts, log, "one");
+    {
+        const Act outer(acts, "outer");
+        acts.changes().tracks = true;
+        {
+            const ActInterlude interlude(acts);
+            {
+                const Act resize(acts, "resize");
+                acts.changes().layout = true;
+            }
+            EXPECT_TRUE(one.last.layout);
+            EXPECT_FALSE(one.last.tracks);
+        }
+        acts.changes().title = true;
+    }
+    EXPECT_EQ(log, (Log{"one begins outer", "one begins resize", "one ended resize", "one ended outer"}));
+    EXPECT_TRUE(one.last.tracks && one.last.title);
+    EXPECT_FALSE(one.last.layout);
+}
+
 TEST_F(ActsTest, WhatOneActChangedIsForgottenByTheNext) {
     {
         const Act unheard(acts, "unheard");

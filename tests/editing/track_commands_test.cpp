@@ -58,6 +58,18 @@ TEST_F(TrackSteps, AddTrackGrowsTheGridsThenAsksThenAppendsTheRowsThenChoosesThe
     EXPECT_EQ(window.lastAct, "AddTrack");
 }
 
+TEST_F(TrackSteps, TheWindowCanFollowANewSizeWhileTheQuestionIsOpen) {
+    boxes.whenAsked = [this] {
+        resizePage(640, 472);
+        EXPECT_EQ(window.lastAct, "pageResized");
+        EXPECT_EQ(window.take().redraws, 2);
+    };
+    boxes.queueAnswer(BoxAnswer::No);
+    tracks.AddTrack();
+    EXPECT_EQ(window.lastAct, "AddTrack");
+    EXPECT_EQ(window.take().redraws, 2);
+}
+
 TEST_F(TrackSteps, OnlyNoMakesAGuitarTrack) {
     for (const BoxAnswer answer : {BoxAnswer::Yes, BoxAnswer::Cancel, BoxAnswer::Ok}) {
         boxes.queueAnswer(answer);
