@@ -1,5 +1,6 @@
 #include "forms/folder_list.h"
 
+#include "forms/name_pattern.h"
 #include "platform/paths.h"
 
 #include <QGuiApplication>
@@ -64,6 +65,11 @@ void FolderList::showFolder(const fs::path& folder, const std::string& ending) {
     readAgain();
 }
 
+void FolderList::setPattern(const QString& pattern) {
+    pattern_ = pattern;
+    readAgain();
+}
+
 // Watched first, so that nothing can change in between.
 void FolderList::readAgain() {
     watch();
@@ -84,8 +90,10 @@ void FolderList::showEvent(QShowEvent* event) {
 
 QStringList FolderList::sortedNames() const {
     QStringList names;
-    for (const fs::path& name : listEntries(folder_, kind_, ending_))
-        names.append(textOf(name));
+    for (const fs::path& name : listEntries(folder_, kind_, ending_)) {
+        const QString text = textOf(name);
+        if (fitsPattern(text, pattern_)) names.append(text);
+    }
     std::sort(names.begin(), names.end(), comesBefore);
     return names;
 }

@@ -22,6 +22,9 @@ class FolderList : public ListBox {
 
     // Shows this folder from now on, or of it what ends so.
     void showFolder(const std::filesystem::path& folder, const std::string& ending = {});
+    // Only entries whose names fit from now on, without regard to case, "*" and "?" being wildcards. It is
+    // "*" at first.
+    void setPattern(const QString& pattern);
     // At once, for what the program itself has just changed there. The chosen row stays chosen by its name
     // and the rows stay where they are on the screen, as far as they are still there.
     void readAgain();
@@ -48,6 +51,7 @@ class FolderList : public ListBox {
     EntryKind kind_;
     std::filesystem::path folder_;
     std::string ending_;
+    QString pattern_ = "*";
     QStringList names_; // by row
     QFileSystemWatcher watcher_;
     QTimer batch_;

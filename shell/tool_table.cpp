@@ -6,6 +6,8 @@
 #include "organisers/track_properties/frmTrackProperties.h"
 #include "organisers/welcome/frmAltSplash.h"
 #include "shell/tool_windows.h"
+#include "tools/chord_manager/frmChordTypeCreator.h"
+#include "tools/chord_manager/frmChordWizard.h"
 
 namespace tabrova {
 
@@ -23,6 +25,8 @@ constexpr ToolRow ToolTable[] = {
     {"frmTrackProperties", "mnuTrackProps", make<frmTrackProperties>},
     {"frmAbout", "mnuAbout", make<frmAbout>},
     {"frmAltSplash", "", make<frmAltSplash>},
+    {"frmChordWizard", "mnuChordManager", make<frmChordWizard>},
+    {"frmChordTypeCreator", "", make<frmChordTypeCreator>},
 };
 
 } // namespace

@@ -57,7 +57,7 @@ void ToolWindows::open(std::string_view form, const Opening& opening) {
     load(form);
     ToolWindow* opened = window(form);
     if (!opened) return;
-    opened->Form_Opened(opening.tab);
+    opened->Form_Opened(opening);
     opened->show();
     // Above the window that asked for it, which it may outlive.
     if (opening.above) opened->windowHandle()->setTransientParent(opening.above->window()->windowHandle());

@@ -4,8 +4,8 @@ namespace tabrova {
 
 Commands::Commands(Workbench& bench, ToolOpener& tools, ColumnClock& clock, MenuState& menus)
     : documents(bench, tools, menus), tracks(bench.tracks), properties(bench.properties),
-      playback(bench, tools, clock), views(bench, menus), structure(bench), entry(bench, menus),
-      language(bench), help(bench.services) {}
+      chords(bench.chords), playback(bench, tools, clock), views(bench, menus), structure(bench),
+      entry(bench, menus), language(bench), help(bench.services) {}
 
 void Commands::registerRows(CommandTable& table) {
     documents.registerRows(table);

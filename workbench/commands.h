@@ -21,6 +21,7 @@ struct Commands {
     DocumentCommands documents;
     TrackCommands& tracks;
     PropertyCommands& properties;
+    ChordEntry& chords;
     PlaybackCommands playback;
     ViewCommands views;
     StructureCommands structure;

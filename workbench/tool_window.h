@@ -11,9 +11,8 @@ class ToolWindow : public Form {
     ToolWindow(const char* name, const ToolContext& context, QWidget* parent)
         : Form(name, context.services.programFolder, parent), context_(context) {}
 
-    // Each time that it comes into view, after Form_Load if it is loaded by that. `tab` is what was asked
-    // for.
-    virtual void Form_Opened(int tab) { static_cast<void>(tab); }
+    // Each time that it comes into view, after Form_Load if it is loaded by that.
+    virtual void Form_Opened(const ToolOpener::Opening&) {}
 
   protected:
     Document& document() { return context_.bench.document; }

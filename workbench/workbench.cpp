@@ -19,7 +19,8 @@ void ReportMidiError(Services& services, int code) {
 Workbench::Workbench(Services& itsServices, QObject* timerParent)
     : services(itsServices), sound(itsServices.midi, [this](int code) { ReportMidiError(services, code); }),
       stopper(itsServices.timers, sound, timerParent), editor(parts()),
-      tracks(parts(), editor, player, itsServices.boxes), properties(parts()) {
+      tracks(parts(), editor, player, itsServices.boxes), properties(parts()),
+      chords(parts(), editor, player) {
     instruments.fill_sound_list(services.programFolder);
 }
 

@@ -2,6 +2,7 @@
 // Needs no window. Whoever shows it, or wants to know what was done to it, observes its acts.
 #pragma once
 
+#include "editing/chord_entry.h"
 #include "editing/property_commands.h"
 #include "editing/track_commands.h"
 #include "platform/services.h"
@@ -31,6 +32,7 @@ class Workbench {
     Editor editor;
     TrackCommands tracks;
     PropertyCommands properties;
+    ChordEntry chords;
 };
 
 } // namespace tabrova

@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QJsonArray>
 #include <QLabel>
@@ -94,6 +95,9 @@ std::optional<bool> checkedOf(QObject* control) {
     return std::nullopt;
 }
 
+// The color of such a control is that of its caption, of any other that of its ground.
+bool hasCaption(QObject* control) { return as<QLabel>(control) || as<QCheckBox>(control); }
+
 bool isEnabled(QObject* control) {
     if (auto* action = as<QAction>(control)) return action->isEnabled();
     if (auto* timer = dynamic_cast<ListedTimer*>(control)) return timer->timerEnabled();
@@ -175,7 +179,7 @@ std::optional<QJsonValue> controlProperty(QObject* control, const QString& prope
     if (property == "max" && range) return QJsonValue(range->maximum);
     if (property == "color" && widget)
         return QJsonValue(widget->palette()
-                              .color(as<QLabel>(control) ? QPalette::WindowText : widget->backgroundRole())
+                              .color(hasCaption(control) ? QPalette::WindowText : widget->backgroundRole())
                               .name());
     if (property == "tooltip" && widget) return QJsonValue(widget->toolTip());
     if (property == "tooltip" && as<QAction>(control)) return QJsonValue(as<QAction>(control)->toolTip());

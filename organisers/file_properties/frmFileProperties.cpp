@@ -113,7 +113,7 @@ void frmFileProperties::Form_Load() {
     resize(sizeHint().expandedTo({430, 380}));
 }
 
-void frmFileProperties::Form_Opened(int) { LoadLanguage(); }
+void frmFileProperties::Form_Opened(const ToolOpener::Opening&) { LoadLanguage(); }
 
 void frmFileProperties::Form_Unload() {
     DocumentProperties properties = context_.commands.properties.properties();

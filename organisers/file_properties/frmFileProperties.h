@@ -21,7 +21,7 @@ class frmFileProperties : public ToolWindow {
 
     void Form_Load() override;
     // Playback has loaded it perhaps, when another language was the active one.
-    void Form_Opened(int tab) override;
+    void Form_Opened(const ToolOpener::Opening& opening) override;
     // Texts that the user has not touched stay as they are, whatever the boxes can show.
     void Form_Unload() override;
 

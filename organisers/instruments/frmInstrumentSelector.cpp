@@ -55,7 +55,7 @@ void frmInstrumentSelector::Form_Load() {
     lst_Instrument_->addItems(context_.bench.instruments.names());
 }
 
-void frmInstrumentSelector::Form_Opened(int) {
+void frmInstrumentSelector::Form_Opened(const ToolOpener::Opening&) {
     LoadLanguage();
     editor().refreshdrawing();
     showProgram();

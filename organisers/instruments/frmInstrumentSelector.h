@@ -15,7 +15,7 @@ class frmInstrumentSelector : public ToolWindow, private ActObserver {
     ~frmInstrumentSelector() override;
 
     void Form_Load() override;
-    void Form_Opened(int tab) override;
+    void Form_Opened(const ToolOpener::Opening& opening) override;
 
   protected:
     void done(int result) override;

@@ -54,7 +54,9 @@ void frmOptions::takeMessage(std::string_view name, const QString& text) {
     if (name == "notInUse") notInUse_ = text;
 }
 
-void frmOptions::Form_Opened(int tab) { OptionsTabs_->setCurrentIndex(tab); }
+void frmOptions::Form_Opened(const ToolOpener::Opening& opening) {
+    OptionsTabs_->setCurrentIndex(opening.tab);
+}
 
 void frmOptions::listLanguages() {
     std::error_code failed;

@@ -29,7 +29,7 @@ class frmOptions : public ToolWindow {
 
     // Fills every control from the settings and the main window, and opens the stored device.
     void Form_Load() override;
-    void Form_Opened(int tab) override;
+    void Form_Opened(const ToolOpener::Opening& opening) override;
 
   protected:
     void takeMessage(std::string_view name, const QString& text) override;

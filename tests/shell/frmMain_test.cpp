@@ -52,7 +52,8 @@ TEST_F(MainWindow, AFailingDeviceEndsTheProgram) {
 }
 
 TEST_F(MainWindow, ItemsWithoutACommandAreDisabled) {
-    EXPECT_FALSE(enabled("mnuChordManager"));
+    EXPECT_FALSE(enabled("mnuScaleManager"));
+    EXPECT_TRUE(enabled("mnuChordManager"));
     EXPECT_TRUE(enabled("mnuFileSave"));
     EXPECT_TRUE(enabled("mnuNoteRemoveBar"));
 }

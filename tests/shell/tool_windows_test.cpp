@@ -25,7 +25,9 @@ class WrittenWindow : public ToolWindow {
         ToolWindow::Form_Load();
     }
     void Form_Unload() override { write("unload"); }
-    void Form_Opened(int tab) override { write("opened at " + std::to_string(tab)); }
+    void Form_Opened(const ToolOpener::Opening& opening) override {
+        write("opened at " + std::to_string(opening.tab));
+    }
 
   private:
     void write(const std::string& what) { steps->push_back(objectName().toStdString() + " " + what); }

@@ -51,9 +51,9 @@ TEST_F(OptionsControls, StandOnTwoTabsInAWindowOf480By470) {
     EXPECT_EQ(tabs().count(), 2);
     EXPECT_EQ(text(described(layoutOf<QVBoxLayout>(form))), "OptionsTabs stretch 0\n");
     load();
-    form.Form_Opened(OptionsTab::Appearance);
+    form.Form_Opened({nullptr, OptionsTab::Appearance});
     EXPECT_EQ(tabs().currentIndex(), 1);
-    form.Form_Opened(OptionsTab::Sound);
+    form.Form_Opened({nullptr, OptionsTab::Sound});
     EXPECT_EQ(tabs().currentIndex(), 0);
 }
 
@@ -148,7 +148,7 @@ TEST_F(OptionsControls, TheColorsAreShownWholeEachWithItsSwatch) {
 
 TEST_F(OptionsControls, TheTabKeyFollowsTheirOrder) {
     load();
-    form.Form_Opened(OptionsTab::Appearance);
+    form.Form_Opened({nullptr, OptionsTab::Appearance});
     at("lstColors").setFocus();
     for (const char* next : {"chkEyeBall", "chkTABOUT", "Check1", "chkStats", "chkSplash", "lstLanguages"}) {
         QTest::keyClick(form.focusWidget(), Qt::Key_Tab);

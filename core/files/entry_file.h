@@ -1,0 +1,25 @@
+// The small files that stand for the entries of a folder, such as a chord or a tuning: the file's name is the
+// entry's name, its one line the entry.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tabrova {
+
+// The first text item of the file, as one input statement reads it: blanks before it are passed over, and it
+// goes up to the first line end or the first comma outside double quotes. Of an item in double quotes it is
+// what stands between them. Empty if the file is not there, cannot be read or is no regular file; at most a
+// megabyte is looked at.
+std::string readFirstItem(const std::filesystem::path& file);
+
+// Makes or replaces the file, which then holds the line and CR LF behind it. A link is replaced and not
+// followed. False if that fails, as it does for a folder, a pipe or a device; a file that could be written
+// only in part is removed. A file that holds the very line already is not touched.
+bool writeEntryFile(const std::filesystem::path& file, std::string_view line);
+
+// Removes the file or the link, never a folder or what it holds. Failures are passed over.
+void removeEntryFile(const std::filesystem::path& file);
+
+} // namespace tabrova
