@@ -5,6 +5,7 @@
 #include "core/document/document_file.h"
 #include "core/document/document_operations.h"
 #include "core/document/track_table.h"
+#include "editing/chord_entry.h"
 #include "editing/clipboard.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
@@ -52,7 +53,7 @@ class EveryCommand {
     }
 
     void step() {
-        switch (choose(0, 9)) {
+        switch (choose(0, 10)) {
         case 0:
         case 1:
             return key();
@@ -69,6 +70,8 @@ class EveryCommand {
             return tracks();
         case 8:
             return play();
+        case 9:
+            return chord();
         default:
             return window();
         }
@@ -130,6 +133,14 @@ class EveryCommand {
         if (oneIn(2)) editor.pasteColumns(oneIn(2) ? Rows::AllTracks : Rows::CurrentTrack);
     }
 
+    void chord() {
+        if (oneIn(4)) chords.RemoveChordFromDocument();
+        StringFrets frets;
+        for (std::string& fret : frets)
+            fret = std::to_string(choose(-1, 7));
+        chords.AddChordToDocument(frets);
+    }
+
     void tracks() {
         if (oneIn(4) && growByOneTrack(document)) {
             document.CurrentTrack = static_cast<std::int16_t>(appendTrackRows(document) + 1);
@@ -172,7 +183,10 @@ class EveryCommand {
     Acts acts; // nobody listens
     ShownTexts texts;
     Surroundings around;
-    Editor editor{{document, view, sound, stopper, words, acts, texts, around}};
+    EditingParts parts{document, view, sound, stopper, words, acts, texts, around};
+    Editor editor{parts};
+    PlayerState player;
+    ChordEntry chords{parts, editor, player};
     std::mt19937 random_;
 };
 

@@ -1,5 +1,6 @@
 #include "tools/chord_manager/chord_staff.h"
 
+#include "forms/code_page_text.h"
 #include "forms/named.h"
 #include "tabview/sprites.h"
 #include "tabview/tab_view.h"
@@ -13,7 +14,7 @@ namespace {
 constexpr int SheetScale = 3;
 constexpr qreal Enlarged = 1.5;
 constexpr QRgb LineColor = 0xFF9A9A9A;
-constexpr int Black = 0;
+constexpr int White = 0xFF;
 constexpr int LineGray = 0x70; // the lines behind the clef are lighter than that
 
 constexpr int StaffHeight = 108;
@@ -23,8 +24,11 @@ constexpr int StaffLeft = 12;
 constexpr int StaffWidth = 150;
 constexpr Rect ClefPiece = {597, 22, 30, 52};
 constexpr int ClefAboveMiddle = 26; // rows of the piece
-constexpr int HeadLeft = 104;
+constexpr int HeadLeft = 112;
 constexpr int HeadShift = 15; // of every second head, which its neighbour would touch
+// Signs stand left of all heads, in columns in which none covers another.
+constexpr int FirstSign = 19;
+constexpr int SignGap = 13;
 constexpr int LedgerWidth = 24;
 
 constexpr int TabLeft = StaffLeft + StaffWidth + 18;
@@ -32,10 +36,12 @@ constexpr int TabWidth = 118;
 constexpr int TabGap = 14;
 constexpr int TabTop = StaffMiddle - TabGap * 5 / 2;
 constexpr int FretLeft = TabLeft + 62;
-constexpr QSize FretSize = {22, 18};
+constexpr int FretPixels = 13;
+constexpr QSize FretSize = {22, 19};
 
 // By note index: diatonic steps above the C below the staff.
 constexpr std::array<int, ChordNotes> Steps = {5, 5, 6, 0, 0, 1, 1, 2, 3, 3, 4, 4};
+constexpr std::array<int, ChordNotes> SignColumns = {0, 1, 0, 0, 0, 0, 1, 0, 0, 2, 0, 0};
 constexpr int StepOfMiddleLine = 6;
 
 // The dark pixels of a piece of the sheet as ink on nothing.
@@ -47,7 +53,7 @@ QImage inkOf(const Surface& sheet, const Rect& piece, int lightest) {
     for (int y = 0; y < ink.height(); ++y)
         for (int x = 0; x < ink.width(); ++x) {
             const int gray = qGray(ink.pixel(x, y));
-            ink.setPixel(x, y, gray > lightest ? 0 : qRgba(Black, Black, Black, 255 - gray));
+            ink.setPixel(x, y, gray > lightest ? 0 : qRgba(0, 0, 0, White - gray));
         }
     return ink;
 }
@@ -96,29 +102,36 @@ QImage trimmed(const QImage& ink) {
 
 ChordStaff::ChordStaff(QWidget* parent) : QWidget(parent) {
     makePaper(*this);
+    makeStaffMarks();
+    makeFrets();
+}
+
+void ChordStaff::makeStaffMarks() {
     const Surface sheet = loadSheet(SheetScale);
     clef_ = inkOf(sheet, ClefPiece, LineGray);
-    const QImage head = trimmed(inkOf(sheet, sprite::WholeHead, 0xFF - 1));
-    const QImage sharp = trimmed(inkOf(sheet, sprite::Sharp, 0xFF - 1));
+    const QImage head = trimmed(inkOf(sheet, sprite::WholeHead, White - 1));
+    const QImage sharp = trimmed(inkOf(sheet, sprite::Sharp, White - 1));
     for (std::size_t note = 0; note < ChordNotes; ++note) {
         const ChordNoteRow& row = chordNoteTable()[note];
         const bool shifted = Steps[note] % 2 == 1;
-        const int x = HeadLeft + (shifted ? HeadShift : 0);
-        // Signs of neighbours stand in two columns, left of all heads.
-        const int signX = HeadLeft - (shifted ? 34 : 19);
-        const QPointF middle(row.sharp ? signX : x, heightOf(note));
-        staffMarks_[note] = new StaffMark(row.staffMark, row.sharp ? sharp : head, middle,
-                                          !row.sharp && Steps[note] == 0, this);
+        const int x = row.sharp ? HeadLeft - FirstSign - SignGap * SignColumns[note]
+                                : HeadLeft + (shifted ? HeadShift : 0);
+        const bool ledger = !row.sharp && Steps[note] == 0;
+        staffMarks_[note] =
+            new StaffMark(row.staffMark, row.sharp ? sharp : head, QPointF(x, heightOf(note)), ledger, this);
     }
+}
+
+void ChordStaff::makeFrets() {
+    QFont digits = font();
+    digits.setPixelSize(FretPixels);
+    digits.setBold(true);
     for (std::size_t string = 0; string < ChordStrings; ++string) {
         frets_[string] = named(new QLabel(this), ChordStringTable[string].fretText);
         const int line = TabTop + ChordStringTable[string].documentRow * TabGap;
         frets_[string]->setGeometry(QRect(QPoint(FretLeft, line - FretSize.height() / 2), FretSize));
         frets_[string]->setAlignment(Qt::AlignCenter);
-        QFont font = frets_[string]->font();
-        font.setPixelSize(13);
-        font.setBold(true);
-        frets_[string]->setFont(font);
+        frets_[string]->setFont(digits);
         frets_[string]->setTextFormat(Qt::PlainText);
     }
 }
@@ -129,7 +142,7 @@ void ChordStaff::showChord(const ChordDisplay& display) {
     for (std::size_t note = 0; note < ChordNotes; ++note)
         staffMarks_[note]->setVisible(display.staff[note]);
     for (std::size_t string = 0; string < ChordStrings; ++string)
-        frets_[string]->setText(QString::fromLatin1(display.frets[string].c_str()));
+        frets_[string]->setText(fromCodePage(display.frets[string]));
     update();
 }
 

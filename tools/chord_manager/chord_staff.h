@@ -23,6 +23,8 @@ class ChordStaff : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void makeStaffMarks();
+    void makeFrets();
     void paintStaff(QPainter& painter) const;
     void paintTablature(QPainter& painter) const;
 

@@ -27,7 +27,10 @@ void fillSharp(QPainter& painter, const QRectF& place, QRgb color) {
     const qreal scale = toScreen.m11();
     const QSizeF size(std::max(1.0, std::round(place.width() * scale)),
                       std::max(1.0, std::round(place.height() * scale)));
+    const bool smooth = painter.testRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.fillRect(QRectF(corner, size / scale), QColor::fromRgb(color));
+    painter.setRenderHint(QPainter::Antialiasing, smooth);
 }
 
 void paintPaper(QPainter& painter, const QRect& place) {
