@@ -28,7 +28,7 @@ ConstructionPanel::ConstructionPanel(QWidget* parent) : QFrame(parent) {
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     Picture2_ = named(new QWidget(this), "Picture2");
     Picture2_->setAutoFillBackground(true);
-    Picture2_->setBackgroundRole(QPalette::Base);
+    Picture2_->setBackgroundRole(QPalette::Window);
     Picture3_ = named(new QWidget(Picture2_), "Picture3");
     for (std::size_t interval = 0; interval < ChordIntervals; ++interval) {
         QCheckBox* box = named(new QCheckBox(Picture3_), QString("cCheck(%1)").arg(interval));
@@ -38,7 +38,7 @@ ConstructionPanel::ConstructionPanel(QWidget* parent) : QFrame(parent) {
     }
     Label11_ = named(new QLabel(Picture2_), "Label11");
     Label11_->setAutoFillBackground(true);
-    Label11_->setBackgroundRole(QPalette::Base);
+    Label11_->setBackgroundRole(QPalette::Window);
     VScroll1_ = named(new QScrollBar(Qt::Vertical, Picture2_), "VScroll1");
     VScroll1_->setFocusPolicy(Qt::NoFocus);
     connect(VScroll1_, &QScrollBar::valueChanged, this, [this](int value) { VScroll1_Change(value); });
