@@ -24,6 +24,16 @@ std::string readBytes(const fs::path& file, std::size_t most) {
     return bytes;
 }
 
+// Whether a file may be made or replaced there. A link goes, so that nothing is written where it leads.
+bool makeRoom(const fs::path& file) {
+    std::error_code failed;
+    const fs::file_status there = fs::symlink_status(file, failed);
+    if (fs::is_symlink(there)) return fs::remove(file, failed);
+    return there.type() == fs::file_type::not_found || fs::is_regular_file(there);
+}
+
+} // namespace
+
 // Commas in double quotes belong to the item, wherever in it the quotes stand.
 std::string_view firstItem(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
@@ -39,16 +49,6 @@ std::string_view firstItem(std::string_view text) {
     text.remove_prefix(1);
     return text.substr(0, text.find('"'));
 }
-
-// Whether a file may be made or replaced there. A link goes, so that nothing is written where it leads.
-bool makeRoom(const fs::path& file) {
-    std::error_code failed;
-    const fs::file_status there = fs::symlink_status(file, failed);
-    if (fs::is_symlink(there)) return fs::remove(file, failed);
-    return there.type() == fs::file_type::not_found || fs::is_regular_file(there);
-}
-
-} // namespace
 
 std::string readFirstItem(const fs::path& file) { return std::string(firstItem(readBytes(file, MostBytes))); }
 

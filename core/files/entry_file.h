@@ -8,10 +8,13 @@
 
 namespace tabrova {
 
-// The first text item of the file, as one input statement reads it: blanks before it are passed over, and it
-// goes up to the first line end or the first comma outside double quotes. Of an item in double quotes it is
-// what stands between them. Empty if the file is not there, cannot be read or is no regular file; at most a
-// megabyte is looked at.
+// The first text item, as one input statement reads it: blanks before it are passed over, and it goes up to
+// the first line end or the first comma outside double quotes. Of an item in double quotes it is what stands
+// between them.
+std::string_view firstItem(std::string_view text);
+
+// That of the file. Empty if the file is not there, cannot be read or is no regular file; at most a megabyte
+// is looked at.
 std::string readFirstItem(const std::filesystem::path& file);
 
 // Makes or replaces the file, which then holds the line and CR LF behind it. A link is replaced and not

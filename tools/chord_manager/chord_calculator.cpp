@@ -57,8 +57,7 @@ void ClearChordDisplay(ChordDisplay& display) {
 void showChordNotes(ChordDisplay& display, std::size_t root, const ChordValues& values) {
     display.userChord = false;
     ClearChordDisplay(display);
-    const ChordPlace& rootPlace = chordNoteTable()[root].root;
-    display.marks[rootPlace.string][rootPlace.fret] = {true, MarkColor::Root};
+    display.marks[rootMark(root).string][rootMark(root).fret] = {true, MarkColor::Root};
     display.chkKey[root] = {true, true};
     for (std::size_t interval = 0; interval < values.size(); ++interval)
         if (values[interval] == 1) display.chkKey[(root + interval) % ChordNotes].checked = true;

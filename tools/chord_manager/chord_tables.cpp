@@ -21,18 +21,33 @@ constexpr ChordPlace PlacesG[] = {{LowE, 3}, {G, 0}, {HighE, 3}};
 constexpr ChordPlace PlacesGs[] = {{LowE, 4}, {G, 1}, {HighE, 4}};
 
 constexpr std::array<ChordNoteRow, ChordNotes> NoteFretTable = {{
-    {"A", "mnA", PlacesA, {A, 0}, false},
-    {"A#", "mnAs", PlacesAs, {A, 1}, true},
-    {"B", "mnB", PlacesB, {A, 2}, false},
-    {"C", "mnC", PlacesC, {A, 3}, false},
-    {"C#", "mnCs", PlacesCs, {A, 4}, true},
-    {"D", "mnD", PlacesD, {D, 0}, false},
-    {"D#", "mnDs", PlacesDs, {D, 1}, true},
-    {"E", "mnE", PlacesE, {LowE, 0}, false},
-    {"F", "mnF", PlacesF, {LowE, 1}, false},
-    {"F#", "mnFs", PlacesFs, {LowE, 2}, true},
-    {"G", "mnG", PlacesG, {LowE, 3}, false},
-    {"G#", "mnGs", PlacesGs, {LowE, 4}, true},
+    {"A", "mnA", PlacesA, false},
+    {"A#", "mnAs", PlacesAs, true},
+    {"B", "mnB", PlacesB, false},
+    {"C", "mnC", PlacesC, false},
+    {"C#", "mnCs", PlacesCs, true},
+    {"D", "mnD", PlacesD, false},
+    {"D#", "mnDs", PlacesDs, true},
+    {"E", "mnE", PlacesE, false},
+    {"F", "mnF", PlacesF, false},
+    {"F#", "mnFs", PlacesFs, true},
+    {"G", "mnG", PlacesG, false},
+    {"G#", "mnGs", PlacesGs, true},
+}};
+
+constexpr std::array<ChordPlace, ChordNotes> RootMarkTable = {{
+    {A, 0},    // A
+    {A, 1},    // A#
+    {A, 2},    // B
+    {A, 3},    // C
+    {A, 4},    // C#
+    {D, 0},    // D
+    {D, 1},    // D#
+    {LowE, 0}, // E
+    {LowE, 1}, // F
+    {LowE, 2}, // F#
+    {LowE, 3}, // G
+    {LowE, 4}, // G#
 }};
 
 // "maj7-5" has the pattern of "maj7", and "0" is the diminished chord: both deliberately.
@@ -59,6 +74,8 @@ constexpr ChordTypeRow ChordTypes[] = {
 } // namespace
 
 std::span<const ChordNoteRow, ChordNotes> chordNoteTable() { return NoteFretTable; }
+
+const ChordPlace& rootMark(std::size_t note) { return RootMarkTable[note]; }
 
 std::span<const ChordTypeRow> builtInChordTypes() { return ChordTypes; }
 

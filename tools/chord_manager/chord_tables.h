@@ -44,12 +44,14 @@ struct ChordNoteRow {
     const char* name;
     const char* staffMark;              // the note head, or the sharp sign of a sharp
     std::span<const ChordPlace> places; // all marks of the note, from the lowest string
-    ChordPlace root;                    // the mark that is red if the note is the root
     bool sharp;                         // shows the head of the note before it too
 };
 
 // By note index: 0 is A, 11 is G#.
 std::span<const ChordNoteRow, ChordNotes> chordNoteTable();
+
+// The mark that is red if the note is the root.
+const ChordPlace& rootMark(std::size_t note);
 
 struct ChordTypeRow {
     const char* name;

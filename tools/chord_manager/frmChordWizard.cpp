@@ -71,7 +71,7 @@ void frmChordWizard::lstKeys_Click() {
 
 void frmChordWizard::LoadChordType() {
     if (lstTypes_->chosenRow() < 0) lstTypes_->setCurrentRow(0);
-    const std::string text = readFirstItem(typeFolder() / lstTypes_->chosenName());
+    const std::string text = readFirstItem(ChordTypeFile());
     sound().AllNotesOff();
     ComputeChord(chordValues(text));
 }
@@ -95,6 +95,8 @@ void frmChordWizard::PickChordFrets() {
     lblTitle_->setText(CurrentKeyName + " " + typeName() + " " + titleSuffix(style()));
     showDisplay();
 }
+
+std::filesystem::path frmChordWizard::ChordTypeFile() const { return typeFolder() / lstTypes_->chosenName(); }
 
 QString frmChordWizard::typeName() const { return textOf(lstTypes_->chosenName()); }
 
@@ -121,7 +123,7 @@ void frmChordWizard::SaveChordType(const QString& name, std::string_view pattern
 
 void frmChordWizard::deleteType() {
     if (lstTypes_->chosenRow() < 0) return;
-    const std::filesystem::path file = typeFolder() / lstTypes_->chosenName();
+    const std::filesystem::path file = ChordTypeFile();
     const QString question =
         words_["deleteTypeBefore"] + " '" + typeName() + "' " + words_["deleteTypeAfter"];
     const BoxAnswer answer =

@@ -81,6 +81,9 @@ class frmChordWizard : public ToolWindow, private ActObserver {
     void tell(const QString& text, BoxIcon icon);
     std::filesystem::path chordFolder() const { return programFolder() / "chords"; }
     std::filesystem::path typeFolder() const { return programFolder() / "chordtypes"; }
+    // Of the chosen entries.
+    std::filesystem::path ChordFile() const;
+    std::filesystem::path ChordTypeFile() const;
 
     ChordDisplay display_;
     ChordSound sound_;

@@ -12,13 +12,14 @@
 
 namespace tabrova {
 
+std::filesystem::path frmChordWizard::ChordFile() const { return chordFolder() / lst_Chords_->chosenName(); }
+
 // The keys' boxes stay empty, and the staff keeps what it showed. Nothing is silenced before it sounds.
 void frmChordWizard::LoadUserChord() {
     if (lst_Chords_->chosenRow() < 0) return;
-    const std::filesystem::path name = lst_Chords_->chosenName();
-    showUserChord(display_, readFirstItem(chordFolder() / name));
+    showUserChord(display_, readFirstItem(ChordFile()));
     showDisplay();
-    lblTitle_->setText(textOf(name) + " (User)");
+    lblTitle_->setText(textOf(lst_Chords_->chosenName()) + " (User)");
     if (chkPlayNow_->isChecked()) PlayChordNow();
 }
 
@@ -43,12 +44,12 @@ void frmChordWizard::storeUserChord() {
 
 void frmChordWizard::deleteChord() {
     if (lst_Chords_->chosenRow() < 0) return;
-    const std::filesystem::path name = lst_Chords_->chosenName();
-    const QString question = words_["deleteChord"] + " '" + textOf(name) + "' ?";
+    const std::filesystem::path file = ChordFile();
+    const QString question = words_["deleteChord"] + " '" + textOf(lst_Chords_->chosenName()) + "' ?";
     const BoxAnswer answer =
         services().boxes.ask({BoxTitle, question, BoxIcon::Exclamation, {BoxAnswer::Yes, BoxAnswer::No}});
     if (answer != BoxAnswer::Yes) return;
-    removeEntryFile(chordFolder() / name);
+    removeEntryFile(file);
     lst_Chords_->readAgain();
 }
 
