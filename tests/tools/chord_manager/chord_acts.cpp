@@ -59,8 +59,6 @@ std::string ChordActs::act() {
         }
         left -= each.weight;
     }
-    for (std::size_t at = 0; at < model->cCheck.size(); ++at)
-        if (model->cCheck[at] == 2) everGrey_.insert(at);
     return told_;
 }
 
@@ -139,19 +137,16 @@ void ChordActs::toggleTranspose() {
     model->transpose = !model->transpose;
 }
 
-// It changes the box and nothing of the chord. What a click makes of a grey box is the toolkit's.
+// The boxes only show: a click on one changes nothing.
 void ChordActs::clickDisplayBox() {
-    const bool interval = below(2) == 0;
-    const std::size_t index = below(12);
-    const QString box = QString(interval ? "cCheck(%1)" : "chkKey(%1)").arg(index);
-    if (interval && everGrey_.contains(index)) return told("a grey box");
-    told("display box " + box.toStdString());
-    window->showTabOf(box);
-    window->toggle(box);
-    if (interval)
-        model->cCheck[index] = model->cCheck[index] == 0 ? 1 : 0;
-    else
-        model->chkKey[index] = !model->chkKey[index];
+    const QString name = QString(below(2) == 0 ? "cCheck(%1)" : "chkKey(%1)").arg(below(12));
+    told("display box " + name.toStdString());
+    window->showTabOf(name);
+    const QWidget& box = window->at(name);
+    const QPoint place = box.mapTo(&window->form, QPoint(8, box.height() / 2));
+    QWidget* under = window->form.childAt(place);
+    if (!under || box.visibleRegion().isEmpty()) return told(" out of sight");
+    QTest::mouseClick(under, Qt::LeftButton, Qt::NoModifier, under->mapFrom(&window->form, place));
 }
 
 void ChordActs::newType() {

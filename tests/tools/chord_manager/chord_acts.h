@@ -80,7 +80,6 @@ class ChordActs : public ChordWindowTest {
     std::string binary(std::size_t bytes);
 
     std::string told_;
-    std::set<std::size_t> everGrey_; // boxes of the construction
     Qt::MouseButtons held_;
 };
 
