@@ -2,13 +2,13 @@
 // Which act comes next, and on what, is chance from a seed.
 #pragma once
 
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <random>
 
 namespace tabrova::testing {
 
-class ChordActs : public ChordWindowTest {
+class ChordActs : public CheckedChordWindowTest {
   protected:
     // Does one act and tells what it was.
     std::string act();

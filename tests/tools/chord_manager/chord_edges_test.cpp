@@ -1,5 +1,5 @@
 // Edges of the chord manager that random acts seldom reach, and what its controls offer.
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 #include "tools/chord_manager/frmChordTypeCreator.h"
 
 #include <QCheckBox>
@@ -41,7 +41,7 @@ const std::vector<std::string> Intervals = {
 
 } // namespace
 
-class ChordEdges : public ChordWindowTest {
+class ChordEdges : public CheckedChordWindowTest {
   protected:
     ChordEdges() { open(); }
     void chordFile(const std::string& name, const std::string& bytes) {

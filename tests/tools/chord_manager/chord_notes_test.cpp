@@ -1,6 +1,6 @@
 // Every key with every built-in type in every style, through the window, against notes that are worked out
 // from the open strings in semitones alone.
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <QListWidget>
 
@@ -147,7 +147,7 @@ std::string chordText(int key, const Type& type, int style) {
 
 } // namespace
 
-class ChordNotes : public ChordWindowTest, public ::testing::WithParamInterface<int> {
+class ChordNotes : public CheckedChordWindowTest, public ::testing::WithParamInterface<int> {
   protected:
     int rowOf(const char* type) const {
         const auto& list = window->at<QListWidget>("lstTypes");

@@ -1,6 +1,6 @@
 // What the plain model shows, as text.
 #include "core/text/code_page.h"
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <iomanip>
 #include <sstream>

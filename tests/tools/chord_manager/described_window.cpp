@@ -1,5 +1,5 @@
 // What the real window shows, as text.
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -46,16 +46,16 @@ char boxSign(const QCheckBox& box) {
 
 } // namespace
 
-std::string ChordWindow::title() const { return at<QLabel>("lblTitle").text().toStdString(); }
+std::string CheckedChordWindow::title() const { return at<QLabel>("lblTitle").text().toStdString(); }
 
-std::string ChordWindow::fretsText() const {
+std::string CheckedChordWindow::fretsText() const {
     std::string text;
     for (const char* name : FretNames)
         text += "[" + at<QLabel>(name).text().toStdString() + "]";
     return text;
 }
 
-std::string ChordWindow::marksText() const {
+std::string CheckedChordWindow::marksText() const {
     std::string text;
     for (const char* name : MarkNames) {
         for (int fret = 0; fret < 7; ++fret)
@@ -65,21 +65,21 @@ std::string ChordWindow::marksText() const {
     return text;
 }
 
-std::string ChordWindow::keyBoxesText() const {
+std::string CheckedChordWindow::keyBoxesText() const {
     std::string text;
     for (int note = 0; note < 12; ++note)
         text += boxSign(at<QCheckBox>(member("chkKey", note)));
     return text;
 }
 
-std::string ChordWindow::staffText() const {
+std::string CheckedChordWindow::staffText() const {
     std::string text;
     for (const char* name : StaffNames)
         if (!at(name).isHidden()) text += std::string(name) + " ";
     return text;
 }
 
-std::string ChordWindow::constructionText() const {
+std::string CheckedChordWindow::constructionText() const {
     std::string text;
     for (int interval = 0; interval < 22; ++interval) {
         const Qt::CheckState state = at<QCheckBox>(member("cCheck", interval)).checkState();
@@ -88,7 +88,7 @@ std::string ChordWindow::constructionText() const {
     return text;
 }
 
-std::string ChordWindow::previewText() const {
+std::string CheckedChordWindow::previewText() const {
     std::string text;
     for (const char* name : PreviewNames) {
         for (int mark = 0; mark < 8; ++mark)
@@ -98,14 +98,14 @@ std::string ChordWindow::previewText() const {
     return text;
 }
 
-std::string ChordWindow::entriesText() const {
+std::string CheckedChordWindow::entriesText() const {
     std::string text;
     for (const char* name : EntryNames)
         text += "[" + at<QLineEdit>(name).text().toStdString() + "]";
     return text;
 }
 
-std::string ChordWindow::listText(const QString& name) const {
+std::string CheckedChordWindow::listText(const QString& name) const {
     const auto& list = at<QListWidget>(name);
     std::string text;
     for (int row = 0; row < list.count(); ++row)
@@ -113,18 +113,18 @@ std::string ChordWindow::listText(const QString& name) const {
     return text + " chosen " + std::to_string(chosenRow(list));
 }
 
-std::string ChordWindow::highlightText() const {
+std::string CheckedChordWindow::highlightText() const {
     std::string text;
     for (int band = 0; band < 6; ++band)
         if (!at(member("shpStrum", band)).isHidden()) text += std::to_string(band);
     return text.empty() ? "-1" : text;
 }
 
-std::string ChordWindow::timerText(const QString& name) const {
+std::string CheckedChordWindow::timerText(const QString& name) const {
     return (timer(name).timerEnabled() ? "on " : "off ") + std::to_string(timer(name).timerInterval());
 }
 
-std::string ChordWindow::described() const {
+std::string CheckedChordWindow::described() const {
     std::ostringstream text;
     text << "title " << title() << "\nkey " << chosenRow(at<QListWidget>("lstKeys")) << "\nstyle "
          << at<QComboBox>("Combo1").currentIndex() << "\ntypes " << listText("lstTypes") << "\nchords "

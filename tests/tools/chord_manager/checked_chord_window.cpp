@@ -1,5 +1,5 @@
 // The real window's controls, worked as a user does it.
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -20,7 +20,7 @@ PlainFolder filesIn(const std::filesystem::path& folder) {
     return files;
 }
 
-ChordWindow::ChordWindow(const ToolContext& context, const TimerList& timers)
+CheckedChordWindow::CheckedChordWindow(const ToolContext& context, const TimerList& timers)
     : form(context, nullptr), timers_(timers) {
     for (QWidget* control : form.findChildren<QWidget*>())
         if (!control->objectName().isEmpty()) controls_[control->objectName()] = control;
@@ -33,7 +33,7 @@ ChordWindow::ChordWindow(const ToolContext& context, const TimerList& timers)
     }
 }
 
-void ChordWindow::showTabOf(const QString& control) {
+void CheckedChordWindow::showTabOf(const QString& control) {
     auto& tabs = at<QTabWidget>("SSTab1");
     for (int tab = 0; tab < tabs.count(); ++tab) {
         if (tab == tabs.currentIndex() || !tabs.widget(tab)->isAncestorOf(&at(control))) continue;
@@ -42,17 +42,17 @@ void ChordWindow::showTabOf(const QString& control) {
     }
 }
 
-void ChordWindow::press(const QString& button) {
+void CheckedChordWindow::press(const QString& button) {
     showTabOf(button);
     QTest::mouseClick(&at(button), Qt::LeftButton);
 }
 
-void ChordWindow::key(const QString& control, Qt::Key key) {
+void CheckedChordWindow::key(const QString& control, Qt::Key key) {
     showTabOf(control);
     QTest::keyClick(&at(control), key);
 }
 
-void ChordWindow::clickRow(const QString& list, int row) {
+void CheckedChordWindow::clickRow(const QString& list, int row) {
     showTabOf(list);
     auto& box = at<QListWidget>(list);
     box.scrollToItem(box.item(row));
@@ -60,20 +60,20 @@ void ChordWindow::clickRow(const QString& list, int row) {
     QTest::mouseClick(box.viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
 }
 
-void ChordWindow::type(const QString& box, const std::string& text) {
+void CheckedChordWindow::type(const QString& box, const std::string& text) {
     showTabOf(box);
     at<QLineEdit>(box).selectAll();
     if (text.empty()) return QTest::keyClick(&at(box), Qt::Key_Delete);
     QTest::keyClicks(&at(box), QString::fromStdString(text));
 }
 
-void ChordWindow::paste(const QString& box, const std::string& text) {
+void CheckedChordWindow::paste(const QString& box, const std::string& text) {
     showTabOf(box);
     at<QLineEdit>(box).selectAll();
     at<QLineEdit>(box).insert(QString::fromStdString(text));
 }
 
-void ChordWindow::strum(QEvent::Type act, int y, Qt::MouseButton button, Qt::MouseButtons held) {
+void CheckedChordWindow::strum(QEvent::Type act, int y, Qt::MouseButton button, Qt::MouseButtons held) {
     QWidget& strip = at("Image3");
     const QPointF place(strip.width() / 2, y);
     QMouseEvent event(act, place, strip.mapToGlobal(place), button, held, Qt::NoModifier);

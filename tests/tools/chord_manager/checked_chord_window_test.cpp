@@ -1,7 +1,7 @@
 // The window and its plain model side by side: how they are set up and compared, and the edges that random
 // acts seldom reach.
 #include "core/document/document_operations.h"
-#include "tests/tools/chord_manager/chord_window.h"
+#include "tests/tools/chord_manager/checked_chord_window.h"
 
 #include <QTabWidget>
 
@@ -46,7 +46,7 @@ std::string firstDifference(const std::string& shown, const std::string& wanted)
 
 } // namespace
 
-ChordWindowTest::ChordWindowTest() {
+CheckedChordWindowTest::CheckedChordWindowTest() {
     ResizeGrids(document(), 64, 18);
     document().StaffCount = 2;
     document().TrackCount = 3;
@@ -61,9 +61,9 @@ ChordWindowTest::ChordWindowTest() {
     midi.take();
 }
 
-void ChordWindowTest::open() {
+void CheckedChordWindowTest::open() {
     model = std::make_unique<PlainChordManager>(desk);
-    window = std::make_unique<ChordWindow>(context, timers);
+    window = std::make_unique<CheckedChordWindow>(context, timers);
     // A list that comes into view shows what lies in its folder by then.
     window->tabShown = [this](int tab) {
         if (tab == 0) model->types.readAgain(desk.typeFiles);
@@ -71,14 +71,14 @@ void ChordWindowTest::open() {
     };
 }
 
-void ChordWindowTest::close() {
+void CheckedChordWindowTest::close() {
     model->close();
     model.reset();
     window->form.Form_Unload();
     window.reset();
 }
 
-std::string ChordWindowTest::documentText() {
+std::string CheckedChordWindowTest::documentText() {
     PlainDesk shown;
     shown.staffs = document().StaffCount;
     shown.staff = document().CurrentStaff;
@@ -92,14 +92,14 @@ std::string ChordWindowTest::documentText() {
     return described(shown) + std::string(document().technique(0, 3));
 }
 
-std::vector<std::array<int, 3>> ChordWindowTest::takeMidi() {
+std::vector<std::array<int, 3>> CheckedChordWindowTest::takeMidi() {
     std::vector<std::array<int, 3>> bytes;
     for (const ShortMessage& message : midi.take())
         bytes.push_back({message[0], message[1], message[2]});
     return bytes;
 }
 
-::testing::AssertionResult ChordWindowTest::sameAsModel() {
+::testing::AssertionResult CheckedChordWindowTest::sameAsModel() {
     const std::pair<std::string, std::string> both[] = {
         {midiText(takeMidi()), midiText(std::exchange(desk.midi, {}))},
         {boxText(plain(boxes.take())), boxText(std::exchange(desk.boxes, {}))},
@@ -112,12 +112,12 @@ std::vector<std::array<int, 3>> ChordWindowTest::takeMidi() {
     return ::testing::AssertionSuccess();
 }
 
-TEST_F(ChordWindowTest, OpensWithoutAChord) {
+TEST_F(CheckedChordWindowTest, OpensWithoutAChord) {
     open();
     EXPECT_TRUE(sameAsModel());
 }
 
-TEST_F(ChordWindowTest, ClosingSilencesAndOpeningAgainStartsAtTheDefaults) {
+TEST_F(CheckedChordWindowTest, ClosingSilencesAndOpeningAgainStartsAtTheDefaults) {
     open();
     window->clickRow("lstKeys", 3);
     model->lstKeys_Click(3);

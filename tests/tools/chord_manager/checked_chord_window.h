@@ -25,10 +25,10 @@ std::string boxText(const std::vector<PlainBox>& boxes);
 // Files of the folder with their bytes.
 PlainFolder filesIn(const std::filesystem::path& folder);
 
-class ChordWindow {
+class CheckedChordWindow {
   public:
     // Loads and shows it, each of its tabs once.
-    ChordWindow(const ToolContext& context, const TimerList& timers);
+    CheckedChordWindow(const ToolContext& context, const TimerList& timers);
 
     template <class Control = QWidget>
     Control& at(const QString& name) const {
@@ -74,9 +74,9 @@ class ChordWindow {
 };
 
 // The window and its model side by side, over a document of two guitar tracks and a percussion track.
-class ChordWindowTest : public ToolBench {
+class CheckedChordWindowTest : public ToolBench {
   protected:
-    ChordWindowTest();
+    CheckedChordWindowTest();
     void open();
     void close();
     // What has been sent, asked and shown since the last time is the same on both sides.
@@ -86,7 +86,7 @@ class ChordWindowTest : public ToolBench {
 
     PlainDesk desk;
     std::unique_ptr<PlainChordManager> model;
-    std::unique_ptr<ChordWindow> window;
+    std::unique_ptr<CheckedChordWindow> window;
 };
 
 } // namespace tabrova::testing
