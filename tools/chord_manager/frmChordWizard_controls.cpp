@@ -282,7 +282,6 @@ void frmChordWizard::connectKeys() {
     constexpr std::array<std::pair<std::size_t, Qt::Key>, 4> arrows = {
         {{0, Qt::Key_Up}, {2, Qt::Key_Left}, {3, Qt::Key_Down}, {4, Qt::Key_Right}}};
     for (const auto& [button, arrow] : arrows) {
-        adderButtons_[button]->setProperty("key", QKeySequence(Qt::ALT | arrow).toString());
         shortcut(QKeySequence(Qt::ALT | arrow), adderButtons_[button]->Click);
     }
 }
