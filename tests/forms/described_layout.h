@@ -54,6 +54,28 @@ inline QStringList described(const QGridLayout& layout) {
     return lines;
 }
 
+// A layout with all that lies in it, inner ones below their place and set in by two blanks.
+inline QStringList describedTree(QLayout& layout) {
+    QStringList lines = {"margins " + margins(layout) + QString(" spacing %1").arg(layout.spacing())};
+    if (auto* box = qobject_cast<QBoxLayout*>(&layout)) lines += described(*box);
+    if (auto* grid = qobject_cast<QGridLayout*>(&layout)) {
+        lines += described(*grid);
+        lines.append(QString("gaps %1 %2").arg(grid->horizontalSpacing()).arg(grid->verticalSpacing()));
+        for (int column = 0; column < grid->columnCount(); ++column)
+            if (grid->columnMinimumWidth(column))
+                lines.append(QString("column %1 least %2").arg(column).arg(grid->columnMinimumWidth(column)));
+    }
+    for (int place = 0; place < layout.count(); ++place) {
+        QLayoutItem& item = *layout.itemAt(place);
+        QLayout* inner = item.layout() ? item.layout() : item.widget() ? item.widget()->layout() : nullptr;
+        if (!inner) continue;
+        lines.append(describedItem(item) + ":");
+        for (const QString& line : describedTree(*inner))
+            lines.append("  " + line);
+    }
+    return lines;
+}
+
 inline std::string text(const QStringList& lines) { return lines.join('\n').toStdString() + "\n"; }
 
 } // namespace tabrova::testing

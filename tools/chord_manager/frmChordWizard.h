@@ -46,6 +46,10 @@ class frmChordWizard : public ToolWindow, private ActObserver {
     QWidget* buildBankTab();
     QWidget* buildOptionsTab();
     QWidget* buildChordSide();
+    QLayout* buildTypeButtons(QWidget* parent);
+    QLayout* buildStyle(QWidget* parent);
+    QLabel* buildTitle(QWidget* parent);
+    QLayout* buildView(QWidget* parent);
     QWidget* buildKeyBoxes(QWidget* parent);
     QWidget* buildAdder(QWidget* parent);
     void connectCalculator();

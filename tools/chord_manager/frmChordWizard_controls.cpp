@@ -82,9 +82,6 @@ QWidget* frmChordWizard::buildCalculatorTab() {
     lstTypes_ = new FolderList("lstTypes", EntryKind::Files, tab);
     lstTypes_->setMinimumWidth(110);
     construction_ = new ConstructionPanel(tab);
-    Combo1_ = named(new QComboBox(tab), "Combo1");
-    Command1_ = named(new QPushButton(tab), "Command1");
-    Command3_ = named(new QPushButton(tab), "Command3");
     auto* grid = new QGridLayout(tab);
     grid->setContentsMargins(Gap, Gap, Gap, Gap);
     grid->addWidget(labelOf(lstKeys_, "Label1", tab), 0, 0);
@@ -92,18 +89,29 @@ QWidget* frmChordWizard::buildCalculatorTab() {
     grid->addWidget(lstKeys_, 1, 0);
     grid->addWidget(lstTypes_, 1, 1);
     grid->addWidget(construction_, 0, 2, 2, 1);
-    auto* typeButtons = new QHBoxLayout;
-    typeButtons->addWidget(Command1_);
-    typeButtons->addWidget(Command3_);
-    typeButtons->addStretch(1);
-    grid->addLayout(typeButtons, 2, 0, 1, 3);
-    auto* styleRow = new QHBoxLayout;
-    styleRow->addWidget(labelOf(Combo1_, "Label3", tab));
-    styleRow->addWidget(Combo1_, 1);
-    grid->addLayout(styleRow, 3, 0, 1, 3);
+    grid->addLayout(buildTypeButtons(tab), 2, 0, 1, 3);
+    grid->addLayout(buildStyle(tab), 3, 0, 1, 3);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(1, 1);
     return tab;
+}
+
+QLayout* frmChordWizard::buildTypeButtons(QWidget* parent) {
+    Command1_ = named(new QPushButton(parent), "Command1");
+    Command3_ = named(new QPushButton(parent), "Command3");
+    auto* row = new QHBoxLayout;
+    row->addWidget(Command1_);
+    row->addWidget(Command3_);
+    row->addStretch(1);
+    return row;
+}
+
+QLayout* frmChordWizard::buildStyle(QWidget* parent) {
+    Combo1_ = named(new QComboBox(parent), "Combo1");
+    auto* row = new QHBoxLayout;
+    row->addWidget(labelOf(Combo1_, "Label3", parent));
+    row->addWidget(Combo1_, 1);
+    return row;
 }
 
 QWidget* frmChordWizard::buildBankTab() {
@@ -151,46 +159,57 @@ QWidget* frmChordWizard::buildOptionsTab() {
     return tab;
 }
 
+// What the chord is called, looks like and sounds like, beside every tab.
 QWidget* frmChordWizard::buildChordSide() {
     auto* side = new QWidget(this);
-    lblTitle_ = named(new QLabel(side), "lblTitle");
-    QFont titleFont = lblTitle_->font();
-    titleFont.setPixelSize(TitlePixels);
-    titleFont.setBold(true);
-    lblTitle_->setFont(titleFont);
-    lblTitle_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     cmdPlay_ = pictureButton("cmdPlay", ButtonPicture::Play, side);
     cmdPlay_->setProperty("key", "F7");
     ChordDiagram::MarkNames names;
     for (std::size_t string = 0; string < ChordStrings; ++string)
         names[string] = ChordStringTable[string].marks;
     diagram_ = new ChordDiagram(ChordLayout, names, ChordFretMarks, side);
-    lstView_ = named(new QComboBox(side), "lstView");
-    staff_ = new ChordStaff(side);
-    staff_->setFixedSize(staff_->sizeHint());
-    picAdder_ = buildAdder(side);
     Image3_ = new StrumStrip(side);
-    auto* view = new QGridLayout;
-    view->addWidget(staff_, 0, 0);
-    view->addWidget(picAdder_, 0, 0);
     auto* grid = new QGridLayout(side);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(lblTitle_, 0, 0);
+    grid->setVerticalSpacing(8);
+    grid->setHorizontalSpacing(8);
+    grid->addWidget(buildTitle(side), 0, 0);
     grid->addWidget(cmdPlay_, 0, 1, Qt::AlignRight);
     grid->addWidget(diagram_, 1, 0, Qt::AlignLeft);
     grid->addWidget(buildKeyBoxes(side), 1, 1);
-    auto* viewRow = new QHBoxLayout;
-    viewRow->setSpacing(Gap / 2);
-    viewRow->addWidget(labelOf(lstView_, "Label4", side));
-    viewRow->addWidget(lstView_, 1);
-    grid->addLayout(viewRow, 2, 0, 1, 2);
-    grid->addLayout(view, 3, 0, 1, 2);
-    grid->addWidget(named(new QLabel(side), "Label6"), 4, 0, 1, 2);
-    grid->addWidget(Image3_, 5, 0, 1, 2);
-    grid->setRowStretch(6, 1);
-    grid->setVerticalSpacing(8);
-    grid->setHorizontalSpacing(8);
+    grid->addLayout(buildView(side), 2, 0, 1, 2);
+    grid->addWidget(named(new QLabel(side), "Label6"), 3, 0, 1, 2);
+    grid->addWidget(Image3_, 4, 0, 1, 2);
+    grid->setRowStretch(5, 1);
     return side;
+}
+
+QLabel* frmChordWizard::buildTitle(QWidget* parent) {
+    lblTitle_ = named(new QLabel(parent), "lblTitle");
+    QFont titleFont = lblTitle_->font();
+    titleFont.setPixelSize(TitlePixels);
+    titleFont.setBold(true);
+    lblTitle_->setFont(titleFont);
+    lblTitle_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    return lblTitle_;
+}
+
+// The notation, or in its place the signs that write the chord into the document.
+QLayout* frmChordWizard::buildView(QWidget* parent) {
+    lstView_ = named(new QComboBox(parent), "lstView");
+    staff_ = new ChordStaff(parent);
+    staff_->setFixedSize(staff_->sizeHint());
+    picAdder_ = buildAdder(parent);
+    auto* choice = new QHBoxLayout;
+    choice->setSpacing(Gap / 2);
+    choice->addWidget(labelOf(lstView_, "Label4", parent));
+    choice->addWidget(lstView_, 1);
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(8);
+    grid->addLayout(choice, 0, 0);
+    grid->addWidget(staff_, 1, 0);
+    grid->addWidget(picAdder_, 1, 0);
+    return grid;
 }
 
 // They only show.

@@ -18,6 +18,7 @@ constexpr char DefaultName[] = "(new chord)";
 constexpr int LongestName = 15;
 constexpr DiagramLayout PreviewLayout = {34, 26, 34, 32, 18};
 constexpr int EntryWidth = 30;
+constexpr int LetterGap = 2;
 constexpr std::array StringLetters = {"E", "A", "D", "G", "B", "E"};
 
 // One character, which is chosen wherever the box is clicked: the next key replaces it.
@@ -44,23 +45,6 @@ NewChordPanel::NewChordPanel(QWidget* parent) : QGroupBox(parent) {
     for (std::size_t string = 0; string < ChordStrings; ++string)
         names[string] = ChordStringTable[string].previewMarks;
     preview_ = new ChordDiagram(PreviewLayout, names, SilentMark + 1, this);
-    auto* strings = new QWidget(this);
-    strings->setFixedSize(preview_->width(), 0);
-    for (std::size_t string = 0; string < ChordStrings; ++string) {
-        auto* letter =
-            named(new QLabel(StringLetters[string], strings), QString("Tuning_Chord(%1)").arg(string));
-        letter->setAlignment(Qt::AlignCenter);
-        entries_[string] = named(new FretBox(strings), ChordStringTable[string].entry);
-        entries_[string]->setAccessibleName(ChordStringTable[string].name);
-        const int left = PreviewLayout.stringX(string) - EntryWidth / 2;
-        const int letterHeight = letter->sizeHint().height();
-        letter->setGeometry(left, 0, EntryWidth, letterHeight);
-        entries_[string]->move(left, letterHeight + 2);
-        entries_[string]->resize(EntryWidth, entries_[string]->sizeHint().height());
-        strings->setFixedHeight(entries_[string]->geometry().bottom() + 1);
-        connect(entries_[string], &QLineEdit::textChanged, this,
-                [this, string] { txt_addcrd_Change(string); });
-    }
     txt_NewChordName_ = named(new QLineEdit(DefaultName, this), "txt_NewChordName");
     txt_NewChordName_->setMaxLength(LongestName);
     Command2_ = named(new QPushButton(this), "Command2");
@@ -72,12 +56,33 @@ NewChordPanel::NewChordPanel(QWidget* parent) : QGroupBox(parent) {
     auto* column = new QVBoxLayout(this);
     column->addWidget(hint);
     column->addWidget(preview_, 0, Qt::AlignHCenter);
-    column->addWidget(strings, 0, Qt::AlignHCenter);
+    column->addWidget(buildEntries(), 0, Qt::AlignHCenter);
     column->addStretch(1);
     column->addWidget(labelOf(txt_NewChordName_, "Label9", this));
     column->addWidget(txt_NewChordName_);
     column->addWidget(Command2_);
     PreviewNewChord();
+}
+
+// Each box stands under its string of the preview.
+QWidget* NewChordPanel::buildEntries() {
+    auto* strings = new QWidget(this);
+    int height = 0;
+    for (std::size_t string = 0; string < ChordStrings; ++string) {
+        auto* letter =
+            named(new QLabel(StringLetters[string], strings), QString("Tuning_Chord(%1)").arg(string));
+        letter->setAlignment(Qt::AlignCenter);
+        auto* entry = named(new FretBox(strings), ChordStringTable[string].entry);
+        entry->setAccessibleName(ChordStringTable[string].name);
+        const int left = PreviewLayout.stringX(string) - EntryWidth / 2;
+        letter->setGeometry(left, 0, EntryWidth, letter->sizeHint().height());
+        entry->setGeometry(left, letter->height() + LetterGap, EntryWidth, entry->sizeHint().height());
+        height = entry->geometry().bottom() + 1;
+        connect(entry, &QLineEdit::textChanged, this, [this, string] { txt_addcrd_Change(string); });
+        entries_[string] = entry;
+    }
+    strings->setFixedSize(preview_->width(), height);
+    return strings;
 }
 
 ChordEntries NewChordPanel::entries() const {

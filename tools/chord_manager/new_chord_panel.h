@@ -33,6 +33,7 @@ class NewChordPanel : public QGroupBox {
     void clearSaved();
 
   private:
+    QWidget* buildEntries();
     void txt_addcrd_Change(std::size_t string);
     void CheckFretEntry(std::size_t string);
     void PreviewNewChord();
