@@ -18,6 +18,15 @@ constexpr int BottomMargin = 12;
 constexpr int RightMargin = 18;
 constexpr qreal RingWidth = 2.5;
 
+// On a string that is not played, in ink.
+void paintCross(QPainter& painter, const QRectF& place) {
+    const QRectF inner = place.adjusted(1 + RingWidth, 1 + RingWidth, -1 - RingWidth, -1 - RingWidth);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(ChartInk), RingWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(inner.topLeft(), inner.bottomRight());
+    painter.drawLine(inner.topRight(), inner.bottomLeft());
+}
+
 ChordMark::Shape shapeOf(std::size_t mark) {
     if (mark == SilentMark) return ChordMark::Shape::Cross;
     return mark == 0 ? ChordMark::Shape::Ring : ChordMark::Shape::Disc;
@@ -54,15 +63,11 @@ void ChordMark::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor color = palette().color(backgroundRole());
     const QRectF place = QRectF(rect()).adjusted(1, 1, -1, -1);
-    const QRectF inner = place.adjusted(RingWidth, RingWidth, -RingWidth, -RingWidth);
-    painter.setPen(QPen(shape_ == Shape::Cross ? QColor::fromRgb(ChartInk) : color, RingWidth, Qt::SolidLine,
-                        Qt::RoundCap));
     switch (shape_) {
     case Shape::Cross:
-        painter.drawLine(inner.topLeft(), inner.bottomRight());
-        painter.drawLine(inner.topRight(), inner.bottomLeft());
-        break;
+        return paintCross(painter, rect());
     case Shape::Ring:
+        painter.setPen(QPen(color, RingWidth));
         painter.drawEllipse(place.adjusted(RingWidth, RingWidth, -RingWidth, -RingWidth));
         break;
     case Shape::Disc:
@@ -86,13 +91,15 @@ ChordDiagram::ChordDiagram(const DiagramLayout& layout, const MarkNames& names, 
         }
 }
 
-void ChordDiagram::showMarks(
-    const std::array<std::array<ChordMarkState, ChordFretMarks>, ChordStrings>& marks) {
-    for (std::size_t string = 0; string < ChordStrings; ++string)
+void ChordDiagram::showChord(const ChordDisplay& display) {
+    for (std::size_t string = 0; string < ChordStrings; ++string) {
+        silent_[string] = display.frets[string] == " ";
         for (std::size_t mark = 0; mark < ChordFretMarks; ++mark) {
-            marks_[string][mark]->setMarkColor(marks[string][mark].color);
-            marks_[string][mark]->setVisible(marks[string][mark].visible);
+            marks_[string][mark]->setMarkColor(display.marks[string][mark].color);
+            marks_[string][mark]->setVisible(display.marks[string][mark].visible);
         }
+    }
+    update();
 }
 
 void ChordDiagram::showOneMark(const std::array<std::size_t, ChordStrings>& marks) {
@@ -118,6 +125,8 @@ void ChordDiagram::paintEvent(QPaintEvent*) {
                          layout_.fretGap * DiagramLayout::Frets + 1),
                   StringColor);
     }
+    for (std::size_t string = 0; string < ChordStrings; ++string)
+        if (silent_[string]) paintCross(painter, layout_.markPlace(string, 0));
     fillSharp(painter, QRectF(left - 2, layout_.fretY(0) - NutHeight, right - left + 4, NutHeight), ChartInk);
 }
 

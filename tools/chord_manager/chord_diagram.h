@@ -53,7 +53,8 @@ class ChordDiagram : public QWidget {
     // `marks` of each string; the one past the last fret is the cross of a string that is not played.
     ChordDiagram(const DiagramLayout& layout, const MarkNames& names, std::size_t marks, QWidget* parent);
 
-    void showMarks(const std::array<std::array<ChordMarkState, ChordFretMarks>, ChordStrings>& marks);
+    // A string that is not played has a cross above the nut.
+    void showChord(const ChordDisplay& display);
     // This mark of each string and no other.
     void showOneMark(const std::array<std::size_t, ChordStrings>& marks);
 
@@ -66,6 +67,7 @@ class ChordDiagram : public QWidget {
   private:
     DiagramLayout layout_;
     std::array<std::vector<ChordMark*>, ChordStrings> marks_;
+    std::array<bool, ChordStrings> silent_{};
 };
 
 } // namespace tabrova

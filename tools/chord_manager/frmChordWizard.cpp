@@ -105,7 +105,7 @@ CalculatorStyle frmChordWizard::style() const {
 }
 
 void frmChordWizard::showDisplay() {
-    diagram_->showMarks(display_.marks);
+    diagram_->showChord(display_);
     staff_->showChord(display_);
     for (std::size_t note = 0; note < ChordNotes; ++note) {
         chkKey_[note]->setChecked(display_.chkKey[note].checked);

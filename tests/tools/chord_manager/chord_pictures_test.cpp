@@ -39,11 +39,12 @@ class Charts : public ChordWindow {
 
 TEST_F(Charts, AMarkIsOfItsColorAndSeenOnlyWhereItIs) {
     ChordDiagram diagram(Layout, Names, SilentMark + 1, nullptr);
-    std::array<std::array<ChordMarkState, ChordFretMarks>, ChordStrings> marks{};
-    marks[1][3] = {true, MarkColor::Root};
-    marks[2][2] = {true, MarkColor::Plain};
-    marks[3][0] = {true, MarkColor::Plain};
-    diagram.showMarks(marks);
+    ChordDisplay display;
+    display.marks[1][3] = {true, MarkColor::Root};
+    display.marks[2][2] = {true, MarkColor::Plain};
+    display.marks[3][0] = {true, MarkColor::Plain};
+    display.frets[5] = " ";
+    diagram.showChord(display);
     const QImage image = pictured(diagram, 1);
     EXPECT_EQ(image.pixel(Layout.markPlace(1, 3).center()), 0xFFFF0000);
     EXPECT_EQ(image.pixel(Layout.markPlace(2, 2).center()), 0xFF549BF1);
@@ -51,6 +52,10 @@ TEST_F(Charts, AMarkIsOfItsColorAndSeenOnlyWhereItIs) {
     EXPECT_NE(image.pixel(Layout.markPlace(3, 0).center() + QPoint(5, 0)), 0xFFFFFFFF);
     EXPECT_EQ(image.pixel(Layout.markPlace(4, 0).center()), 0xFFFFFFFF);
     EXPECT_NE(image.pixel(Layout.markPlace(4, 3).center()), 0xFF549BF1);
+    EXPECT_LT(qGray(image.pixel(Layout.markPlace(5, 0).center())), 80); // the cross of a silent string
+    display.frets[5] = "";
+    diagram.showChord(display);
+    EXPECT_EQ(pictured(diagram, 1).pixel(Layout.markPlace(5, 0).center()), 0xFFFFFFFF);
 }
 
 TEST_F(Charts, OneMarkAStringWhereItIsSilentACross) {
