@@ -1,8 +1,12 @@
 // The pictures of buttons: each is another one, stands upright in its place, and suits the theme.
 #include "forms/button_pictures.h"
 
+#include "tests/shell/likeness.h"
+#include "tests/tabview/plain_blitter.h"
+
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +50,25 @@ TEST(ButtonPictures, StandInTheMiddleOfTheirButtonsAndFillThem) {
         EXPECT_NEAR(ink.center().x(), 13.5, 2) << static_cast<int>(picture);
         EXPECT_NEAR(ink.center().y(), 13.5, 1) << static_cast<int>(picture);
     }
+}
+
+// One row of them, each at twice its size; a new one is looked at before it takes the fixture's place.
+TEST(ButtonPictures, AreThoseThatWereLookedAt) {
+    constexpr int Side = 56;
+    QImage row(Side * static_cast<int>(AllPictures.size()), Side, QImage::Format_RGB32);
+    row.fill(Qt::white);
+    {
+        QPainter painter(&row);
+        for (std::size_t each = 0; each < AllPictures.size(); ++each) {
+            QImage picture = shown(AllPictures[each], 0xFF000000, 2);
+            picture.setDevicePixelRatio(1);
+            painter.drawImage(Side * static_cast<int>(each), 0, picture);
+        }
+    }
+    const QImage wanted =
+        QImage(TABROVA_FIXTURES "/button_pictures.png").convertToFormat(QImage::Format_RGB32);
+    EXPECT_TRUE(
+        testing::sameImage(testing::withSmallDifferencesTakenOut(row, wanted), wanted, "button_pictures"));
 }
 
 TEST(ButtonPictures, DifferFromEachOther) {

@@ -49,6 +49,7 @@ class frmChordWizard : public ToolWindow, private ActObserver {
     QLayout* buildTypeButtons(QWidget* parent);
     QLayout* buildStyle(QWidget* parent);
     QLabel* buildTitle(QWidget* parent);
+    QLayout* buildViewChoice(QWidget* parent);
     QLayout* buildView(QWidget* parent);
     QWidget* buildKeyBoxes(QWidget* parent);
     QWidget* buildAdder(QWidget* parent);

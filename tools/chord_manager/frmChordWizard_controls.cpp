@@ -177,10 +177,11 @@ QWidget* frmChordWizard::buildChordSide() {
     grid->addWidget(cmdPlay_, 0, 1, Qt::AlignRight);
     grid->addWidget(diagram_, 1, 0, Qt::AlignLeft);
     grid->addWidget(buildKeyBoxes(side), 1, 1);
-    grid->addLayout(buildView(side), 2, 0, 1, 2);
-    grid->addWidget(named(new QLabel(side), "Label6"), 3, 0, 1, 2);
-    grid->addWidget(Image3_, 4, 0, 1, 2);
-    grid->setRowStretch(5, 1);
+    grid->addLayout(buildViewChoice(side), 2, 0, 1, 2);
+    grid->addLayout(buildView(side), 3, 0, 1, 2);
+    grid->addWidget(named(new QLabel(side), "Label6"), 4, 0, 1, 2);
+    grid->addWidget(Image3_, 5, 0, 1, 2);
+    grid->setRowStretch(6, 1);
     return side;
 }
 
@@ -194,22 +195,24 @@ QLabel* frmChordWizard::buildTitle(QWidget* parent) {
     return lblTitle_;
 }
 
+QLayout* frmChordWizard::buildViewChoice(QWidget* parent) {
+    lstView_ = named(new QComboBox(parent), "lstView");
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Gap / 2);
+    row->addWidget(labelOf(lstView_, "Label4", parent));
+    row->addWidget(lstView_, 1);
+    return row;
+}
+
 // The notation, or in its place the signs that write the chord into the document.
 QLayout* frmChordWizard::buildView(QWidget* parent) {
-    lstView_ = named(new QComboBox(parent), "lstView");
     staff_ = new ChordStaff(parent);
     staff_->setFixedSize(staff_->sizeHint());
     picAdder_ = buildAdder(parent);
-    auto* choice = new QHBoxLayout;
-    choice->setSpacing(Gap / 2);
-    choice->addWidget(labelOf(lstView_, "Label4", parent));
-    choice->addWidget(lstView_, 1);
-    auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(8);
-    grid->addLayout(choice, 0, 0);
-    grid->addWidget(staff_, 1, 0);
-    grid->addWidget(picAdder_, 1, 0);
-    return grid;
+    auto* place = new QGridLayout;
+    place->addWidget(staff_, 0, 0);
+    place->addWidget(picAdder_, 0, 0);
+    return place;
 }
 
 // They only show.
