@@ -72,11 +72,11 @@ TEST_F(Views, TheButtonsOfAClick) {
     EXPECT_EQ(note(drive.doc(), 0, 2), "");
 }
 
-TEST_F(Views, ADoubleClickDoesNothingWhileThereIsNoChordManager) {
+TEST_F(Views, ADoubleClickOpensTheChordManagerAndWritesNothing) {
     drive.ok("do mnuVirtualFretboard");
     drive.ok("dblclick picFretboard " + placeOf(2, 7));
     EXPECT_EQ(note(drive.doc(), 0, 2), "");
-    EXPECT_EQ(drive.forms("visible"), std::vector<std::string>{"frmMain"});
+    EXPECT_EQ(drive.forms("visible"), (std::vector<std::string>{"frmChordWizard", "frmMain"}));
     EXPECT_TRUE(drive.ok("boxes")["boxes"].toArray().isEmpty());
 }
 
