@@ -8,6 +8,8 @@
 #include "shell/tool_windows.h"
 #include "tools/chord_manager/frmChordTypeCreator.h"
 #include "tools/chord_manager/frmChordWizard.h"
+#include "tools/scale_manager/frmScaleWizard.h"
+#include "tools/tuning_manager/frmTuningManager.h"
 
 namespace tabrova {
 
@@ -27,6 +29,8 @@ constexpr ToolRow ToolTable[] = {
     {"frmAltSplash", "", make<frmAltSplash>},
     {"frmChordWizard", "mnuChordManager", make<frmChordWizard>},
     {"frmChordTypeCreator", "", make<frmChordTypeCreator>},
+    {"frmScaleWizard", "mnuScaleManager", make<frmScaleWizard>},
+    {"frmTuningManager", "mnuTuningManager", make<frmTuningManager>},
 };
 
 } // namespace

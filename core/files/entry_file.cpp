@@ -50,7 +50,10 @@ std::string_view firstItem(std::string_view text) {
     return text.substr(0, text.find('"'));
 }
 
-std::string readFirstItem(const fs::path& file) { return std::string(firstItem(readBytes(file, MostBytes))); }
+std::optional<std::string> readFirstItem(const fs::path& file) {
+    const std::string bytes = readBytes(file, MostBytes);
+    return bytes.empty() ? std::nullopt : std::optional(std::string(firstItem(bytes)));
+}
 
 bool writeEntryFile(const fs::path& file, std::string_view line) {
     std::string text(line);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -13,9 +14,9 @@ namespace tabrova {
 // between them.
 std::string_view firstItem(std::string_view text);
 
-// That of the file. Empty if the file is not there, cannot be read or is no regular file; at most a megabyte
-// is looked at.
-std::string readFirstItem(const std::filesystem::path& file);
+// That of the file, of which at most a megabyte is looked at. Nothing if the file is not there, cannot be
+// read, is no regular file or has no bytes.
+std::optional<std::string> readFirstItem(const std::filesystem::path& file);
 
 // Makes or replaces the file, which then holds the line and CR LF behind it. A link is replaced and not
 // followed. False if that fails, as it does for a folder, a pipe or a device; a file that could be written

@@ -52,7 +52,7 @@ TEST_F(MainWindow, AFailingDeviceEndsTheProgram) {
 }
 
 TEST_F(MainWindow, ItemsWithoutACommandAreDisabled) {
-    EXPECT_FALSE(enabled("mnuScaleManager"));
+    EXPECT_FALSE(enabled("mnuBandManager"));
     EXPECT_TRUE(enabled("mnuChordManager"));
     EXPECT_TRUE(enabled("mnuFileSave"));
     EXPECT_TRUE(enabled("mnuNoteRemoveBar"));

@@ -79,8 +79,8 @@ void showUserChord(ChordDisplay& display, std::string_view text) {
     ClearChordDisplay(display);
     for (std::size_t string = 0; string < ChordStrings; ++string) {
         std::string& fret = display.frets[string];
-        fret = text.substr(std::min(string, text.size()), 1);
-        if (fret == "x") fret = " ";
+        const std::string_view entry = text.substr(std::min(string, text.size()), 1);
+        fret = std::string(entry == "x" ? " " : entry);
         for (std::size_t mark = 0; mark < ChordFretMarks; ++mark)
             if (fret == std::to_string(mark)) display.marks[string][mark].visible = true;
     }

@@ -1,7 +1,7 @@
 #include "tools/chord_manager/chord_diagram.h"
 
+#include "forms/paper.h"
 #include "tools/chord_manager/new_chord.h"
-#include "tools/chord_manager/paper.h"
 
 namespace tabrova {
 
@@ -10,26 +10,16 @@ namespace {
 constexpr std::array StringWidths = {3.0, 2.5, 2.0, 1.75, 1.5, 1.0}; // from the lowest, in pixels
 constexpr QRgb StringColor = 0xFF505050;
 constexpr QRgb WireColor = 0xFF9A9A9A;
-constexpr QRgb PlainMarkColor = 0xFF549BF1;
-constexpr QRgb RootMarkColor = 0xFFFF0000;
 constexpr int NutHeight = 5;
 constexpr int NumberWidth = 18;
 constexpr int BottomMargin = 12;
 constexpr int RightMargin = 18;
-constexpr qreal RingWidth = 2.5;
 
-// On a string that is not played, in ink.
-void paintCross(QPainter& painter, const QRectF& place) {
-    const QRectF inner = place.adjusted(1 + RingWidth, 1 + RingWidth, -1 - RingWidth, -1 - RingWidth);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor::fromRgb(ChartInk), RingWidth, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(inner.topLeft(), inner.bottomRight());
-    painter.drawLine(inner.topRight(), inner.bottomLeft());
-}
+QRgb markColor(MarkColor color) { return color == MarkColor::Root ? RootMarkColor : PlainMarkColor; }
 
-ChordMark::Shape shapeOf(std::size_t mark) {
-    if (mark == SilentMark) return ChordMark::Shape::Cross;
-    return mark == 0 ? ChordMark::Shape::Ring : ChordMark::Shape::Disc;
+RoundMark::Shape shapeOf(std::size_t mark) {
+    if (mark == SilentMark) return RoundMark::Shape::Cross;
+    return mark == 0 ? RoundMark::Shape::Ring : RoundMark::Shape::Disc;
 }
 
 } // namespace
@@ -44,40 +34,6 @@ QSize DiagramLayout::size() const {
     return {stringX(ChordStrings - 1) + RightMargin, fretY(Frets) + BottomMargin};
 }
 
-ChordMark::ChordMark(const QString& name, Shape shape, QWidget* parent) : QWidget(parent), shape_(shape) {
-    setObjectName(name);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    setMarkColor(MarkColor::Plain);
-    hide();
-}
-
-void ChordMark::setMarkColor(MarkColor color) {
-    QPalette palette = this->palette();
-    palette.setColor(backgroundRole(),
-                     QColor::fromRgb(color == MarkColor::Root ? RootMarkColor : PlainMarkColor));
-    setPalette(palette);
-}
-
-void ChordMark::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color = palette().color(backgroundRole());
-    const QRectF place = QRectF(rect()).adjusted(1, 1, -1, -1);
-    switch (shape_) {
-    case Shape::Cross:
-        return paintCross(painter, rect());
-    case Shape::Ring:
-        painter.setPen(QPen(color, RingWidth));
-        painter.drawEllipse(place.adjusted(RingWidth, RingWidth, -RingWidth, -RingWidth));
-        break;
-    case Shape::Disc:
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(color);
-        painter.drawEllipse(place);
-        break;
-    }
-}
-
 ChordDiagram::ChordDiagram(const DiagramLayout& layout, const MarkNames& names, std::size_t marks,
                            QWidget* parent)
     : QWidget(parent), layout_(layout) {
@@ -85,7 +41,8 @@ ChordDiagram::ChordDiagram(const DiagramLayout& layout, const MarkNames& names, 
     setFixedSize(layout.size());
     for (std::size_t string = 0; string < ChordStrings; ++string)
         for (std::size_t mark = 0; mark < marks; ++mark) {
-            auto* made = new ChordMark(QString("%1(%2)").arg(names[string]).arg(mark), shapeOf(mark), this);
+            auto* made = new RoundMark(QString("%1(%2)").arg(names[string]).arg(mark), shapeOf(mark),
+                                       PlainMarkColor, this);
             made->setGeometry(layout_.markPlace(string, mark));
             marks_[string].push_back(made);
         }
@@ -95,7 +52,7 @@ void ChordDiagram::showChord(const ChordDisplay& display) {
     for (std::size_t string = 0; string < ChordStrings; ++string) {
         silent_[string] = display.frets[string] == " ";
         for (std::size_t mark = 0; mark < ChordFretMarks; ++mark) {
-            marks_[string][mark]->setMarkColor(display.marks[string][mark].color);
+            marks_[string][mark]->setMarkColor(markColor(display.marks[string][mark].color));
             marks_[string][mark]->setVisible(display.marks[string][mark].visible);
         }
     }

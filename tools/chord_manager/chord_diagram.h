@@ -3,6 +3,7 @@
 // are controls of their own, named as each string's row says. The chart is black on white in every theme.
 #pragma once
 
+#include "forms/round_mark.h"
 #include "tools/chord_manager/chord_calculator.h"
 
 #include <QWidget>
@@ -29,23 +30,6 @@ struct DiagramLayout {
     QSize size() const;
 };
 
-class ChordMark : public QWidget {
-  public:
-    enum class Shape { Disc, Ring, Cross };
-
-    // Hidden, and of the plain color.
-    ChordMark(const QString& name, Shape shape, QWidget* parent);
-
-    // It is seen only as the widget's color.
-    void setMarkColor(MarkColor color);
-
-  protected:
-    void paintEvent(QPaintEvent* event) override;
-
-  private:
-    Shape shape_;
-};
-
 class ChordDiagram : public QWidget {
   public:
     using MarkNames = std::array<const char*, ChordStrings>;
@@ -66,7 +50,7 @@ class ChordDiagram : public QWidget {
 
   private:
     DiagramLayout layout_;
-    std::array<std::vector<ChordMark*>, ChordStrings> marks_;
+    std::array<std::vector<RoundMark*>, ChordStrings> marks_;
     std::array<bool, ChordStrings> silent_{};
 };
 

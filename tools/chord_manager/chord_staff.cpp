@@ -2,9 +2,9 @@
 
 #include "forms/code_page_text.h"
 #include "forms/named.h"
+#include "forms/paper.h"
 #include "tabview/sprites.h"
 #include "tabview/tab_view.h"
-#include "tools/chord_manager/paper.h"
 
 namespace tabrova {
 

@@ -71,7 +71,7 @@ void frmChordWizard::lstKeys_Click() {
 
 void frmChordWizard::LoadChordType() {
     if (lstTypes_->chosenRow() < 0) lstTypes_->setCurrentRow(0);
-    const std::string text = readFirstItem(ChordTypeFile());
+    const std::string text = readFirstItem(ChordTypeFile()).value_or("");
     sound().AllNotesOff();
     ComputeChord(chordValues(text));
 }

@@ -17,7 +17,7 @@ std::filesystem::path frmChordWizard::ChordFile() const { return chordFolder() /
 // The keys' boxes stay empty, and the staff keeps what it showed. Nothing is silenced before it sounds.
 void frmChordWizard::LoadUserChord() {
     if (lst_Chords_->chosenRow() < 0) return;
-    showUserChord(display_, readFirstItem(ChordFile()));
+    showUserChord(display_, readFirstItem(ChordFile()).value_or(""));
     showDisplay();
     lblTitle_->setText(textOf(lst_Chords_->chosenName()) + " (User)");
     if (chkPlayNow_->isChecked()) PlayChordNow();

@@ -4,12 +4,12 @@
 #include "forms/folder_list.h"
 #include "forms/logo.h"
 #include "forms/named.h"
+#include "forms/paper.h"
 #include "tools/chord_manager/chord_diagram.h"
 #include "tools/chord_manager/chord_staff.h"
 #include "tools/chord_manager/construction_panel.h"
 #include "tools/chord_manager/frmChordWizard.h"
 #include "tools/chord_manager/new_chord_panel.h"
-#include "tools/chord_manager/paper.h"
 #include "tools/chord_manager/strum_strip.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "tools/chord_manager/strum_strip.h"
 
 #include "forms/named.h"
+#include "forms/paper.h"
 #include "tools/chord_manager/chord_sound.h"
-#include "tools/chord_manager/paper.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // What the chord manager draws: the chart's places and pixels, the staff, the tablature and the strip.
+#include "forms/paper.h"
 #include "tests/tools/chord_manager/chord_window.h"
 #include "tools/chord_manager/chord_diagram.h"
 #include "tools/chord_manager/new_chord.h"
-#include "tools/chord_manager/paper.h"
 
 #include <QPainter>
 

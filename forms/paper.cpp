@@ -1,4 +1,4 @@
-#include "tools/chord_manager/paper.h"
+#include "forms/paper.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
-// What the chord manager draws stands on white paper with black ink in every theme, since the colors of marks
-// and captions are fixed.
+// Charts and tablature of the tools stand on white paper with black ink in every theme, since the colors of
+// their marks and captions are fixed.
 #pragma once
 
 #include <QPainter>
