@@ -16,10 +16,17 @@ constexpr int LineGap = 18; // pixels, as all below
 constexpr int Top = 14;
 constexpr int Side = 10;
 constexpr int FirstNote = 34;
-constexpr QSize LabelSize = {19, 17};
+constexpr int NoteGap = 26;     // of the slots of a string
+constexpr int StringShift = 86; // each string's first slot stands so far right of the lower one's
+constexpr QSize LabelSize = {24, 17};
 constexpr int DigitPixels = 13;
 constexpr int LetterPixels = 20;
 constexpr QRgb LineColor = 0xFF9A9A9A;
+
+int noteX(std::size_t label) {
+    return FirstNote + static_cast<int>(label / ScaleSlots) * StringShift +
+           static_cast<int>(label % ScaleSlots) * NoteGap;
+}
 
 int lineY(std::size_t string) { return Top + static_cast<int>(ScaleStrings - 1 - string) * LineGap; }
 
@@ -36,7 +43,7 @@ ScaleTab::ScaleTab(QWidget* parent) : QWidget(parent) {
     makePaper(*this);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
-    setFixedSize(FirstNote + static_cast<int>(Labels) * LabelSize.width() + Side,
+    setFixedSize(noteX(Labels - 1) + LabelSize.width() + Side,
                  2 * Top + (static_cast<int>(ScaleStrings) - 1) * LineGap + 1);
     QFont digits = font();
     digits.setPixelSize(DigitPixels);
@@ -45,8 +52,7 @@ ScaleTab::ScaleTab(QWidget* parent) : QWidget(parent) {
         const std::size_t string = label / ScaleSlots;
         const QString name = QString("%1(%2)").arg(ScaleStringTable[string].labels).arg(label % ScaleSlots);
         labels_[label] = named(new QLabel(this), name);
-        labels_[label]->setGeometry(FirstNote + static_cast<int>(label) * LabelSize.width(),
-                                    lineY(string) - LabelSize.height() / 2, LabelSize.width(),
+        labels_[label]->setGeometry(noteX(label), lineY(string) - LabelSize.height() / 2, LabelSize.width(),
                                     LabelSize.height());
         labels_[label]->setAlignment(Qt::AlignCenter);
         labels_[label]->setFont(digits);
