@@ -108,7 +108,7 @@ void frmScaleWizard::connectControls() {
 void frmScaleWizard::Form_Load() {
     LoadLanguage();
     Picture2_->blackenLabels();
-    showDisplay({});
+    ClearScaleDisplay();
     std::error_code failed;
     std::filesystem::create_directory(folder(), failed);
     for (const ScaleTypeRow& scale : builtInScales())
@@ -126,11 +126,17 @@ void frmScaleWizard::showDisplay(const ScaleDisplay& display) {
 void frmScaleWizard::ShowScale() {
     if (ScKey_->chosenRow() < 0) ScKey_->setCurrentRow(0);
     const ScaleKeyRow& key = ScaleKeyTable[static_cast<std::size_t>(ScKey_->chosenRow())];
-    const std::filesystem::path name = scType_->chosenName();
-    if (const auto line = readFirstItem(folder() / name)) txt_scale = *line;
-    showDisplay(layScale(key.shift, txt_scale));
-    lblTitle_->setText(QString(key.name) + " " + textOf(name));
+    if (const auto line = readFirstItem(ScaleFile())) txt_scale = *line;
+    LayScale(key.shift);
+    lblTitle_->setText(QString(key.name) + " " + textOf(scType_->chosenName()));
 }
+
+void frmScaleWizard::LayScale(int shift) {
+    ClearScaleDisplay();
+    showDisplay(layScale(shift, txt_scale));
+}
+
+std::filesystem::path frmScaleWizard::ScaleFile() const { return folder() / scType_->chosenName(); }
 
 // Earlier notes ring on. The timer starts for an empty label too.
 void frmScaleWizard::playNote(std::size_t string, const QString& fret) {
@@ -169,7 +175,7 @@ void frmScaleWizard::SaveNewScale() {
 
 void frmScaleWizard::deleteScale() {
     if (scType_->chosenRow() < 0) return;
-    removeEntryFile(folder() / scType_->chosenName());
+    removeEntryFile(ScaleFile());
     scType_->readAgain();
 }
 

@@ -29,6 +29,8 @@ class frmScaleWizard : public ToolWindow {
     void connectControls();
 
     void ShowScale();
+    void LayScale(int shift);
+    void ClearScaleDisplay() { showDisplay({}); }
     void showDisplay(const ScaleDisplay& display);
     void playNote(std::size_t string, const QString& fret);
     void switchView();
@@ -37,6 +39,7 @@ class frmScaleWizard : public ToolWindow {
     bool WriteScaleFile(const QString& name, std::string_view line);
     void deleteScale();
     std::filesystem::path folder() const { return programFolder() / "scales"; }
+    std::filesystem::path ScaleFile() const; // of the chosen entry
 
     WindowTimer tmrscaleStopper_;
     std::string txt_scale; // the scale that was read last
