@@ -81,9 +81,8 @@ bool ScaleTab::eventFilter(QObject* watched, QEvent* event) {
     const auto found = std::find(labels_.begin(), labels_.end(), watched);
     if (found == labels_.end()) return false;
     if (event->type() == QEvent::MouseMove) {
-        blackenLabels();
         setInk(**found, 0xFFFF0000);
-        return true;
+        return true; // the panel would blacken it
     }
     if (event->type() == QEvent::MouseButtonPress) return true; // the release is the click
     if (event->type() != QEvent::MouseButtonRelease) return false;
