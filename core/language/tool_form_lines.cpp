@@ -170,6 +170,7 @@ constexpr LanguageLine TuningManager[] = {
     caption(436, "Command1", "Save This Tuning"),
     caption(437, "Command2", "Delete Selected Tuning"),
     caption(438, "Command3", "Assign This Tuning to Active Track"),
+    toolTip(532, "Picture1", "Sound all Strings"),
 };
 
 constexpr FormLines Forms[] = {

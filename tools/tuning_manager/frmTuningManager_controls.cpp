@@ -84,6 +84,7 @@ QWidget* frmTuningManager::buildStrings() {
         const int line = static_cast<int>(TuningStrings - 1 - string);
         buttons_[string] = pegButton(row.button, QString(row.name).right(1), strings);
         buttons_[string]->setAccessibleName(row.name);
+        buttons_[string]->setToolTip(row.name);
         lists_[string] = named(new QComboBox(strings), row.list);
         for (int item = 0; item < TuningItems; ++item)
             lists_[string]->addItem(QString::fromStdString(tuningItem(string, item)));
