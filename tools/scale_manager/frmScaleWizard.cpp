@@ -173,8 +173,8 @@ void frmScaleWizard::SaveNewScale() {
     creator_->ResetScaleEntry();
 }
 
+// With nothing chosen the removal fails without a word, and the list is read again all the same.
 void frmScaleWizard::deleteScale() {
-    if (scType_->chosenRow() < 0) return;
     removeEntryFile(ScaleFile());
     scType_->readAgain();
 }
