@@ -21,16 +21,21 @@ constexpr int EntryWidth = 30;
 constexpr int LetterGap = 2;
 constexpr std::array StringLetters = {"E", "A", "D", "G", "B", "E"};
 
-// One character, which is chosen wherever the box is clicked: the next key replaces it.
+// One character, which is always chosen: the next key replaces it, wherever the focus came from.
 class FretBox : public QLineEdit {
   public:
     explicit FretBox(QWidget* parent) : QLineEdit("0", parent) {
         setMaxLength(1);
         setAlignment(Qt::AlignCenter);
         setFixedWidth(EntryWidth);
+        connect(this, &QLineEdit::textEdited, this, [this] { selectAll(); });
     }
 
   protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QLineEdit::focusInEvent(event);
+        selectAll();
+    }
     void mouseReleaseEvent(QMouseEvent* event) override {
         QLineEdit::mouseReleaseEvent(event);
         selectAll();

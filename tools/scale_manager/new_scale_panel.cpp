@@ -17,6 +17,31 @@ constexpr char NoNoteEntry[] = "-";
 constexpr std::array StringLetters = {"E", "A", "D", "G", "B", "E"};
 constexpr int Gap = 12;
 
+// What it shows is chosen whenever the box takes the focus or is clicked: the next key replaces it.
+class SlotBox : public QComboBox {
+  public:
+    explicit SlotBox(QWidget* parent) : QComboBox(parent) {
+        addItems({"0", "1", "2", "3", "4", "5", NoNoteEntry});
+        setEditable(true);
+        setInsertPolicy(NoInsert);
+        setCompleter(nullptr);
+        setMinimumContentsLength(1);
+        lineEdit()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease)
+            QMetaObject::invokeMethod(lineEdit(), &QLineEdit::selectAll, Qt::QueuedConnection);
+        return QComboBox::eventFilter(watched, event);
+    }
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QComboBox::focusInEvent(event);
+        lineEdit()->selectAll();
+    }
+};
+
 } // namespace
 
 NewScalePanel::NewScalePanel(QWidget* parent) : QWidget(parent) {
@@ -51,13 +76,8 @@ QWidget* NewScalePanel::buildBoxes() {
         const int row = static_cast<int>(ScaleStrings - 1 - string);
         grid->addWidget(new QLabel(StringLetters[string], boxes), row, 0);
         for (std::size_t slot = 0; slot < ScaleSlots; ++slot) {
-            auto* box = named(new QComboBox(boxes),
-                              QString("%1(%2)").arg(ScaleStringTable[string].entries).arg(slot));
-            box->addItems({"0", "1", "2", "3", "4", "5", NoNoteEntry});
-            box->setEditable(true);
-            box->setInsertPolicy(QComboBox::NoInsert);
-            box->setCompleter(nullptr);
-            box->setMinimumContentsLength(1);
+            auto* box =
+                named(new SlotBox(boxes), QString("%1(%2)").arg(ScaleStringTable[string].entries).arg(slot));
             grid->addWidget(box, row, static_cast<int>(slot) + 1);
             boxes_[string][slot] = box;
         }

@@ -148,9 +148,10 @@ void frmTuningManager::connectControls() {
     connect(Command3_, &QPushButton::clicked, this, [this] { AssignTuning(); });
 }
 
-// A click on the text opens the list too.
+// A click on the text opens the list too, once the button is let go: the list would take the release for a
+// choice.
 bool frmTuningManager::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == Combo1_->lineEdit() && event->type() == QEvent::MouseButtonPress) {
+    if (watched == Combo1_->lineEdit() && event->type() == QEvent::MouseButtonRelease) {
         Combo1_->showPopup();
         return true;
     }

@@ -262,6 +262,19 @@ TEST_F(ChordBank, SavingMakesNoSound) {
     EXPECT_FALSE(sent().empty());
 }
 
+TEST_F(ChordBank, EachKeyReplacesTheCharacterWhereverTheFocusCameFrom) {
+    openOnBank();
+    auto& box = control<QLineEdit>("txt_addcrdb");
+    box.setFocus(Qt::OtherFocusReason);
+    QTest::keyClick(&box, Qt::Key_3);
+    EXPECT_EQ(box.text(), "3");
+    QTest::keyClick(&box, Qt::Key_5);
+    EXPECT_EQ(box.text(), "5");
+    QTest::keyClick(&box, Qt::Key_7);
+    EXPECT_EQ(box.text(), "0");
+    EXPECT_EQ(boxes.take().size(), 1);
+}
+
 TEST_F(ChordBank, AClickInABoxChoosesItsCharacter) {
     openOnBank();
     auto& box = control<QLineEdit>("txt_addcrdD");

@@ -247,6 +247,20 @@ TEST_F(ScaleWindow, ANewScaleIsSavedAndItsBoxesAreFreeAgain) {
     EXPECT_EQ(control<QLineEdit>("Txt_flname").maxLength(), 20);
 }
 
+TEST_F(ScaleWindow, AKeyInABoxReplacesWhatItShows) {
+    open();
+    auto& box = control<QComboBox>("lst_B(1)");
+    box.setFocus(Qt::OtherFocusReason);
+    QTest::keyClick(&box, Qt::Key_3);
+    EXPECT_EQ(box.currentText(), "3");
+    auto& other = control<QComboBox>("lst_B(2)");
+    QWidget* line = other.lineEdit();
+    QTest::mouseClick(line, Qt::LeftButton);
+    QApplication::processEvents();
+    QTest::keyClick(line, Qt::Key_4);
+    EXPECT_EQ(other.currentText(), "4");
+}
+
 TEST_F(ScaleWindow, AnEmptyScaleUnderTheDefaultNameIsSavedToo) {
     open();
     press("Command1");

@@ -3,6 +3,7 @@
 #include "tools/tuning_manager/frmTuningManager.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
@@ -105,6 +106,20 @@ TEST_F(TuningWindow, AListThatIsChangedMakesTheTuningACustomOne) {
     choose("Combo1", 0);
     EXPECT_EQ(items(), Items(6, 12));
     EXPECT_EQ(preset(), "Standard Tuning (Concert)");
+}
+
+TEST_F(TuningWindow, AClickOnThePresetsTextOpensTheirListAndChoosesNothing) {
+    open();
+    choose("TuningB", 10);
+    auto& presets = control<QComboBox>("Combo1");
+    QTest::mousePress(presets.lineEdit(), Qt::LeftButton);
+    EXPECT_FALSE(presets.view()->isVisible());
+    QTest::mouseRelease(presets.lineEdit(), Qt::LeftButton);
+    EXPECT_TRUE(presets.view()->isVisible());
+    presets.hidePopup();
+    EXPECT_EQ(preset(), "(custom tuning)");
+    QTest::keyClick(presets.lineEdit(), Qt::Key_X);
+    EXPECT_EQ(preset(), "(custom tuning)"); // nothing can be typed
 }
 
 TEST_F(TuningWindow, ThePressedButtonHasItsBorderAndAllOfThemTheirTurn) {
