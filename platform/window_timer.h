@@ -1,12 +1,14 @@
 // The program's timers by name: an interval in milliseconds, an enabled flag and a Timer event, all known to
 // one list, so that a test can stop their clocks and deliver single events. WindowTimer is the ordinary
-// periodic one.
+// periodic one, whose ticks keep time: each is due one interval after the one before was due, however late
+// that came.
 #pragma once
 
 #include <QMap>
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
 #include <functional>
 
 namespace tabrova {
@@ -59,16 +61,21 @@ class WindowTimer : public QObject, public ListedTimer {
     int timerInterval() const override { return interval_; }
     bool timerEnabled() const override { return enabled_; }
     bool fire() override;
-    // At least 1 ms. A running timer starts afresh.
+    // At least 1 ms. The next tick of a running timer is due one new interval after its last one.
     void setInterval(int milliseconds);
     // true starts a new interval, also when the timer runs.
     void setEnabled(bool enabled);
 
   private:
+    using Clock = std::chrono::steady_clock;
+
     void runClock() override;
+    void waitForNextTick();
+    void timeOut();
 
     std::function<void()> tick_;
-    QTimer clock_;
+    QTimer clock_;           // runs until the next tick
+    Clock::time_point last_; // when the last tick was due, or the timer was started
     int interval_;
     bool enabled_ = false;
 };

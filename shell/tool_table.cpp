@@ -8,6 +8,9 @@
 #include "shell/tool_windows.h"
 #include "tools/chord_manager/frmChordTypeCreator.h"
 #include "tools/chord_manager/frmChordWizard.h"
+#include "tools/drum_machine/frmDrumMachine.h"
+#include "tools/metronome/frmMetronome.h"
+#include "tools/percussion_editor/frmPercussion.h"
 #include "tools/scale_manager/frmScaleWizard.h"
 #include "tools/tuning_manager/frmTuningManager.h"
 
@@ -31,6 +34,9 @@ constexpr ToolRow ToolTable[] = {
     {"frmChordTypeCreator", "", make<frmChordTypeCreator>},
     {"frmScaleWizard", "mnuScaleManager", make<frmScaleWizard>},
     {"frmTuningManager", "mnuTuningManager", make<frmTuningManager>},
+    {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
+    {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
+    {"frmPercussion", "", make<frmPercussion>},
 };
 
 } // namespace

@@ -1,10 +1,9 @@
 #include "core/document/document_file.h"
-#include "core/files/regular_file.h"
+#include "core/files/replaced_file.h"
 
 #include <algorithm>
 #include <bit>
 #include <cstring>
-#include <fstream>
 
 namespace tabrova {
 
@@ -102,31 +101,11 @@ FileText documentText(const Document& document) {
     return text;
 }
 
-// An old file is written over in its place and cut to the new length behind it: of all ways to replace its
-// content this one asks the disk for the least room, so that it fails the least. A write that fails cuts the
-// file where it came to. A file that can only be written, or is not there, is opened afresh.
+// A pipe or a device is as if it was opened and its first write failed.
 bool saveDocument(Document& document, const std::filesystem::path& path) {
-    if (isSpecialFile(path)) {
-        // As if it was opened and its first write failed.
-        document.HasFileName = True16;
-        return false;
-    }
-    const FileText text = documentText(document);
-    std::error_code failed;
-    std::ofstream file;
-    // The stream holds nothing back, so that its position is that of the file also behind a write that
-    // failed.
-    file.rdbuf()->pubsetbuf(nullptr, 0);
-    file.open(path, std::ios::binary | std::ios::in);
-    if (!file) file.open(path, std::ios::binary | std::ios::trunc);
-    if (!file) return false;
-    document.HasFileName = True16;
-    const bool written = text.writeTo(file);
-    file.clear();
-    const auto end = file.tellp();
-    file.close();
-    if (end >= 0) std::filesystem::resize_file(path, static_cast<std::uintmax_t>(end), failed);
-    return written && !failed;
+    const Replaced replaced = replaceFile(path, documentText(document));
+    if (replaced != Replaced::NotOpened) document.HasFileName = True16;
+    return replaced == Replaced::Whole;
 }
 
 } // namespace tabrova

@@ -119,6 +119,9 @@ constexpr LanguageLine DrumMachine[] = {
     caption(215, "Command3", "Open a Song"),
     message(216, "play", "Play"),
     message(217, "stop", "Stop"),
+    caption(533, "lblInstrument", "Instrument"),
+    caption(534, "lblVolume", "Volume"),
+    message(535, "stepsSet", "Steps:"),
 };
 
 constexpr LanguageLine Metronome[] = {

@@ -82,6 +82,14 @@ bool equalsIgnoringCase(std::string_view text, std::string_view lower) {
     return true;
 }
 
+template <class Integer>
+std::optional<Integer> roundedTo(double value) {
+    const double rounded = roundHalfToEven(value);
+    if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+        return std::nullopt;
+    return static_cast<Integer>(rounded);
+}
+
 } // namespace
 
 double roundHalfToEven(double value) {
@@ -102,17 +110,16 @@ std::optional<double> toNumber(std::string_view text) {
     return value;
 }
 
-std::optional<std::int16_t> toInteger16(double value) {
-    constexpr std::int16_t Least = std::numeric_limits<std::int16_t>::min();
-    constexpr std::int16_t Most = std::numeric_limits<std::int16_t>::max();
-    const double rounded = roundHalfToEven(value);
-    if (!(rounded >= Least && rounded <= Most)) return std::nullopt;
-    return static_cast<std::int16_t>(rounded);
-}
+std::optional<std::int16_t> toInteger16(double value) { return roundedTo<std::int16_t>(value); }
 
 std::optional<std::int16_t> toInteger16(std::string_view text) {
     const auto number = toNumber(text);
     return number ? toInteger16(*number) : std::nullopt;
+}
+
+std::optional<std::int32_t> toInteger32(std::string_view text) {
+    const auto number = toNumber(text);
+    return number ? roundedTo<std::int32_t>(*number) : std::nullopt;
 }
 
 std::optional<bool> toBoolean(std::string_view text) {

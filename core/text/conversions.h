@@ -20,6 +20,9 @@ std::optional<double> toNumber(std::string_view text);
 std::optional<std::int16_t> toInteger16(std::string_view text);
 std::optional<std::int16_t> toInteger16(double value);
 
+// The same in the 32-bit range.
+std::optional<std::int32_t> toInteger32(std::string_view text);
+
 // "True" and "False" in any case, or a number (0 is false), with surrounding blanks.
 std::optional<bool> toBoolean(std::string_view text);
 

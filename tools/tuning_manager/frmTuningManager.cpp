@@ -4,6 +4,7 @@
 #include "forms/entry_path.h"
 #include "forms/folder_list.h"
 #include "forms/picture_button.h"
+#include "forms/preset_list.h"
 #include "platform/box_title.h"
 #include "platform/paths.h"
 
@@ -42,9 +43,7 @@ void frmTuningManager::showTuner() {
         buttons_[string]->setEnabled(state.stringsEnabled);
     }
     Picture1_->setChecked(state.allPressed);
-    const QSignalBlocker quiet(Combo1_);
-    Combo1_->setCurrentIndex(state.custom ? -1 : preset_);
-    if (state.custom) Combo1_->setEditText(CustomTuning);
+    Combo1_->showRow(state.custom ? -1 : preset_, CustomTuning);
 }
 
 std::filesystem::path frmTuningManager::TuningFile() const { return folder() / lstTunings_->chosenName(); }

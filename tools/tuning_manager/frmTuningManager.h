@@ -15,6 +15,7 @@ namespace tabrova {
 
 class FolderList;
 class PictureButton;
+class PresetList;
 
 class frmTuningManager : public ToolWindow {
   public:
@@ -25,7 +26,6 @@ class frmTuningManager : public ToolWindow {
 
   protected:
     void takeMessage(std::string_view name, const QString& text) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     QWidget* buildTunings();
@@ -45,7 +45,7 @@ class frmTuningManager : public ToolWindow {
     int preset_ = 0;
     std::map<std::string, QString, std::less<>> words_; // by the message's name
 
-    QComboBox* Combo1_;
+    PresetList* Combo1_;
     FolderList* lstTunings_;
     QLineEdit* txtNAME_;
     QPushButton* Command1_;

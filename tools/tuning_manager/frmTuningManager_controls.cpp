@@ -3,12 +3,12 @@
 #include "forms/logo.h"
 #include "forms/named.h"
 #include "forms/picture_button.h"
+#include "forms/preset_list.h"
 #include "tools/tuning_manager/frmTuningManager.h"
 
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 
@@ -101,14 +101,10 @@ QWidget* frmTuningManager::buildStrings() {
 
 QWidget* frmTuningManager::buildTunings() {
     auto* side = new QWidget(this);
-    Combo1_ = named(new QComboBox(side), "Combo1");
+    Combo1_ = new PresetList("Combo1", side);
     for (const TuningPreset& preset : tuningPresets())
         Combo1_->addItem(preset.caption);
     Combo1_->setMaxVisibleItems(static_cast<int>(tuningPresets().size()));
-    // Its text may be none of its rows, but cannot be typed.
-    Combo1_->setEditable(true);
-    Combo1_->lineEdit()->setReadOnly(true);
-    Combo1_->lineEdit()->installEventFilter(this);
     lstTunings_ = new FolderList("lstTunings", EntryKind::Files, side);
     lstTunings_->setMinimumHeight(90);
     txtNAME_ = named(new QLineEdit(DefaultName, side), "txtNAME");
@@ -146,16 +142,6 @@ void frmTuningManager::connectControls() {
     connect(Command1_, &QPushButton::clicked, this, [this] { SaveTuning(); });
     connect(Command2_, &QPushButton::clicked, this, [this] { deleteTuning(); });
     connect(Command3_, &QPushButton::clicked, this, [this] { AssignTuning(); });
-}
-
-// A click on the text opens the list too, once the button is let go: the list would take the release for a
-// choice.
-bool frmTuningManager::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == Combo1_->lineEdit() && event->type() == QEvent::MouseButtonRelease) {
-        Combo1_->showPopup();
-        return true;
-    }
-    return ToolWindow::eventFilter(watched, event);
 }
 
 } // namespace tabrova

@@ -1,0 +1,77 @@
+#include "tools/percussion_editor/drum_list.h"
+
+#include "sound/drum_names.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace tabrova {
+
+namespace {
+
+constexpr int TextMargin = 5;
+constexpr int LineRoom = 4;
+
+class DrumDelegate : public QStyledItemDelegate {
+  public:
+    explicit DrumDelegate(DrumList& list) : QStyledItemDelegate(&list), list_(list) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const bool marked = list_.markedDrum() == index.row();
+        const QPalette& colors = option.palette;
+        const auto group = (option.state & QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
+        painter->save();
+        if (marked) painter->fillRect(option.rect, colors.color(group, QPalette::Highlight));
+        if (option.state & QStyle::State_Selected) {
+            painter->setPen(colors.color(group, marked ? QPalette::HighlightedText : QPalette::Highlight));
+            painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
+        }
+        painter->setPen(colors.color(group, marked ? QPalette::HighlightedText : QPalette::Text));
+        const QRect place = option.rect.adjusted(TextMargin, 0, -2, 0);
+        const QString text = index.data().toString();
+        painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft,
+                          option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
+        painter->restore();
+    }
+
+  private:
+    const DrumList& list_;
+};
+
+} // namespace
+
+DrumList::DrumList(QWidget* parent) : ListBox("List1", parent) {
+    for (int drum = 0; drum < DrumCount; ++drum)
+        addItem(QString("%1. %2").arg(drum + 1).arg(DrumNames[static_cast<std::size_t>(drum)]));
+    for (int drum = 0; drum < DrumCount; ++drum)
+        item(drum)->setToolTip(item(drum)->text());
+    setFlow(QListView::TopToBottom);
+    setWrapping(true);
+    setResizeMode(QListView::Adjust);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setItemDelegate(new DrumDelegate(*this));
+    placeRows();
+}
+
+void DrumList::setColumns(int columns) {
+    columns_ = columns;
+    placeRows();
+}
+
+void DrumList::resizeEvent(QResizeEvent* event) {
+    placeRows();
+    ListBox::resizeEvent(event);
+}
+
+void DrumList::placeRows() {
+    setGridSize({viewport()->width() / columns_, fontMetrics().height() + LineRoom});
+}
+
+void DrumList::markDrum(std::optional<int> drum) {
+    if (drum == marked_) return;
+    marked_ = drum;
+    viewport()->update();
+}
+
+} // namespace tabrova
