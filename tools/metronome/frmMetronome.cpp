@@ -171,6 +171,7 @@ void frmMetronome::txt_BTp_Change() {
         metronome_.numberOfBars = *bars;
     } else {
         txt_BTp_->setText(DefaultBars);
+        txt_BTp_->selectAll();
     }
 }
 

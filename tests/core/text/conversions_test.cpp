@@ -55,6 +55,16 @@ TEST(Conversions, AnIntegerOverSixteenBitsFails) {
     EXPECT_EQ(toInteger16("3.5"), 4);
 }
 
+TEST(Conversions, AnIntegerOfThirtyTwoBitsRoundsAndFailsBeyondThem) {
+    EXPECT_EQ(toInteger32(" 40000 "), 40000);
+    EXPECT_EQ(toInteger32("2.5"), 2);
+    EXPECT_EQ(toInteger32("-3.5"), -4);
+    EXPECT_EQ(toInteger32("2147483647"), 2147483647);
+    EXPECT_EQ(toInteger32("-2147483648"), -2147483647 - 1);
+    for (const char* none : {"2147483648", "-2147483649", "1e400", "", "x", "1,5"})
+        EXPECT_EQ(toInteger32(none), std::nullopt) << none;
+}
+
 TEST(Conversions, BooleansAreTheTwoWordsOrANumber) {
     for (const char* text : {"True", "true", "TRUE", " True ", "-1", "1", "0.5", " 7 "})
         EXPECT_EQ(toBoolean(text), true);
