@@ -16,7 +16,7 @@ namespace tabrova {
 namespace {
 
 constexpr QRgb SoundingColor = 0xFFF08C00;
-constexpr int FullBar = 48;      // steps set, for the highest bar
+constexpr int FullBar = 32;      // steps set, for the highest bar
 constexpr int LeastBar = 5;      // pixels, for a single step
 constexpr int MarkRoom = 7;      // below the bars, for the mark of the pattern that sounds
 constexpr int EmptyOpacity = 70; // of 255

@@ -28,7 +28,7 @@ class PatternStrip : public QWidget {
     // The place of the pattern's bar, from the upper to the lower edge.
     QRectF barPlace(int pattern) const;
 
-    QSize sizeHint() const override { return {400, 30}; }
+    QSize sizeHint() const override { return {400, 34}; }
     QSize minimumSizeHint() const override { return {200, 24}; }
 
   protected:

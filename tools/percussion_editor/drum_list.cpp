@@ -5,12 +5,22 @@
 #include <QPainter>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
+
 namespace tabrova {
 
 namespace {
 
 constexpr int TextMargin = 5;
 constexpr int LineRoom = 4;
+constexpr int LeastStretch = 80; // percent
+
+// The letters of a name that is too wide are pressed together a little before its end is cut.
+QFont narrowed(QFont font, const QString& text, int width) {
+    const int needed = QFontMetrics(font).horizontalAdvance(text);
+    if (needed > width) font.setStretch(std::max(LeastStretch, width * 100 / needed));
+    return font;
+}
 
 class DrumDelegate : public QStyledItemDelegate {
   public:
@@ -30,9 +40,15 @@ class DrumDelegate : public QStyledItemDelegate {
         painter->setPen(colors.color(group, marked ? QPalette::HighlightedText : QPalette::Text));
         const QRect place = option.rect.adjusted(TextMargin, 0, -2, 0);
         const QString text = index.data().toString();
+        const QFont font = narrowed(option.font, text, place.width());
+        painter->setFont(font);
         painter->drawText(place, Qt::AlignVCenter | Qt::AlignLeft,
-                          option.fontMetrics.elidedText(text, Qt::ElideRight, place.width()));
+                          QFontMetrics(font).elidedText(text, Qt::ElideRight, place.width()));
         painter->restore();
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return list_.gridSize() - QSize(1, 1);
     }
 
   private:

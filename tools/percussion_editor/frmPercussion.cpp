@@ -19,8 +19,8 @@ constexpr int ControlState = 4; // of Shift, Ctrl and Alt: Ctrl
 constexpr int Margin = 8;
 constexpr int AutoTop = 4, ListTop = 27;
 constexpr int LeftColumn = 8, MiddleColumn = 34, RightColumn = 60, DeleteColumn = 94, LabelColumn = 130;
-constexpr QSize OpeningSize = {560, 350};
-constexpr QSize SmallestSize = {260, 200};
+constexpr QSize OpeningSize = {549, 334};
+constexpr QSize SmallestSize = {110, 120};
 
 struct PictureRow {
     const char* name;
@@ -38,6 +38,16 @@ constexpr PictureRow Pictures[] = {
     {"Image6", ButtonPicture::Bin, DeleteColumn, &PercussionLayout::deleteTop, key::Delete},
 };
 
+QFont smallFont(QFont font) {
+    constexpr qreal Smaller = 0.9;
+    if (font.pointSizeF() > 0) {
+        font.setPointSizeF(font.pointSizeF() * Smaller);
+    } else {
+        font.setPixelSize(static_cast<int>(font.pixelSize() * Smaller));
+    }
+    return font;
+}
+
 std::optional<int> drumUnderCursor(const Document& document) {
     if (document.isGuitarTrack(document.CurrentTrack)) return std::nullopt;
     const int column = (document.CurrentStaff - 1) * ColumnsPerStaff + document.ColumnInStaff;
@@ -54,6 +64,8 @@ frmPercussion::frmPercussion(const ToolContext& context, QWidget* parent)
     Label1_ = named(new QLabel(this), "Label1");
     Label1_->setWordWrap(true);
     Label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    for (QWidget* narrow : {static_cast<QWidget*>(List1_), static_cast<QWidget*>(Label1_)})
+        narrow->setFont(smallFont(narrow->font()));
     buildPictures();
     List1_->Click = [this] { List1_Click(); };
     setFirstFocus(List1_);
