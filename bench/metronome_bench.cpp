@@ -140,7 +140,8 @@ void ClickLateness(benchmark::State& state) {
         std::vector<double> late;
         for (std::size_t n = 0; n < Clicks; ++n)
             late.push_back(std::chrono::duration<double, std::milli>(
-                               program.midi.clicks[n] - start - std::chrono::milliseconds(interval) * (n + 1))
+                               program.midi.clicks[n] - start -
+                               std::chrono::milliseconds(interval * static_cast<int>(n + 1)))
                                .count());
         const auto within =
             std::count_if(late.begin(), late.end(), [](double each) { return std::abs(each) <= 2.0; });

@@ -34,6 +34,7 @@ PictureButton::PictureButton(const QString& name, QSize size, QWidget* parent) :
     setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::clicked, this, [this] {
         if (Click) Click();
+        if (MouseDown && !mouseIsDown_) MouseDown();
     });
 }
 
@@ -64,6 +65,17 @@ void PictureButton::keyPressEvent(QKeyEvent* event) {
     const bool entered = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!entered) return QAbstractButton::keyPressEvent(event);
     if (!event->isAutoRepeat()) click();
+}
+
+void PictureButton::mousePressEvent(QMouseEvent* event) {
+    QAbstractButton::mousePressEvent(event);
+    mouseIsDown_ = true;
+    if (MouseDown) MouseDown();
+}
+
+void PictureButton::mouseReleaseEvent(QMouseEvent* event) {
+    QAbstractButton::mouseReleaseEvent(event);
+    mouseIsDown_ = false;
 }
 
 void PictureButton::paintEvent(QPaintEvent*) {

@@ -23,6 +23,8 @@ class PictureButton : public QAbstractButton {
 
     // Once for each press.
     std::function<void()> Click;
+    // The same as soon as a button of the mouse goes down, whichever it is.
+    std::function<void()> MouseDown;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -30,6 +32,8 @@ class PictureButton : public QAbstractButton {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     PictureButton(const QString& name, QSize size, QWidget* parent);
@@ -39,6 +43,7 @@ class PictureButton : public QAbstractButton {
     void paintFocusMark(QPainter& painter) const;
 
     PaintPicture picture_; // none for an icon
+    bool mouseIsDown_ = false;
 };
 
 } // namespace tabrova

@@ -26,7 +26,10 @@ void ListBox::raiseClick() {
 
 QItemSelectionModel::SelectionFlags ListBox::selectionCommand(const QModelIndex& index,
                                                               const QEvent* event) const {
-    return index.isValid() ? QListWidget::selectionCommand(index, event) : QItemSelectionModel::NoUpdate;
+    if (!index.isValid()) return QItemSelectionModel::NoUpdate;
+    const auto command = QListWidget::selectionCommand(index, event);
+    const bool wouldTakeBack = command & (QItemSelectionModel::Deselect | QItemSelectionModel::Toggle);
+    return wouldTakeBack ? QItemSelectionModel::ClearAndSelect : command;
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

@@ -23,7 +23,8 @@ class ListBox : public QListWidget {
     std::function<void()> DoubleClick;
 
   protected:
-    // A click beside the rows changes nothing, and neither do other buttons than the left one.
+    // A click beside the rows changes nothing, and neither do other buttons than the left one. With the Ctrl
+    // key too a click chooses the row, be it chosen already.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
     void mousePressEvent(QMouseEvent* event) override;

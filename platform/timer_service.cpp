@@ -21,8 +21,18 @@ std::uint32_t SystemTimerService::timeSetEvent(std::int32_t delay, std::int32_t,
     if (delay < caps.wPeriodMin || delay > caps.wPeriodMax) return 0;
     const std::chrono::milliseconds period(delay);
     const std::lock_guard lock(mutex_);
+    return add({0, Clock::now() + period, period, callback, user, (flags & TIME_PERIODIC) != 0});
+}
+
+std::uint32_t SystemTimerService::callAt(Clock::time_point due, TimeCallback callback, void* user) {
+    const std::lock_guard lock(mutex_);
+    return add({0, due, {}, callback, user, false});
+}
+
+std::uint32_t SystemTimerService::add(Event event) {
     if (++lastId_ == 0) ++lastId_;
-    events_.push_back({lastId_, Clock::now() + period, period, callback, user, (flags & TIME_PERIODIC) != 0});
+    event.id = lastId_;
+    events_.push_back(event);
     if (!thread_.joinable()) thread_ = std::thread([this] { serve(); });
     changed_.notify_all();
     return lastId_;

@@ -47,8 +47,11 @@ class SystemTimerService : public TimerService {
                                unsigned flags) override;
     void timeKillEvent(std::uint32_t id) override;
 
-  private:
     using Clock = std::chrono::steady_clock;
+    // Calls once, at this time or at once if it is over. Answers the timer's id.
+    std::uint32_t callAt(Clock::time_point due, TimeCallback callback, void* user);
+
+  private:
     struct Event {
         std::uint32_t id;
         Clock::time_point due;
@@ -58,6 +61,8 @@ class SystemTimerService : public TimerService {
         bool periodic;
     };
 
+    // Its id; the caller holds the lock.
+    std::uint32_t add(Event event);
     void serve();
     void call(std::vector<Event>::iterator event);
 

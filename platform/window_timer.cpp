@@ -4,17 +4,6 @@
 
 namespace tabrova {
 
-namespace {
-
-using namespace std::chrono_literals;
-
-// The toolkit's timers count whole milliseconds.
-constexpr auto HalfAStep = 500us;
-// Ticks that are further behind are given up, and the time begins anew.
-constexpr auto MostBehind = 1s;
-
-} // namespace
-
 void TimerList::setFrozen(bool frozen) {
     frozen_ = frozen;
     for (ListedTimer* timer : timers_)
@@ -34,13 +23,12 @@ WindowTimer::WindowTimer(TimerList& list, const QString& name, int interval, std
     : QObject(parent), ListedTimer(list, name), tick_(std::move(tick)), interval_(interval) {
     setObjectName(name);
     clock_.setTimerType(Qt::PreciseTimer);
-    clock_.setSingleShot(true);
-    QObject::connect(&clock_, &QTimer::timeout, this, [this] { timeOut(); });
+    QObject::connect(&clock_, &QTimer::timeout, this, [this] { fire(); });
 }
 
 void WindowTimer::setInterval(int milliseconds) {
     interval_ = std::max(milliseconds, 1);
-    waitForNextTick();
+    runClock();
 }
 
 void WindowTimer::setEnabled(bool enabled) {
@@ -55,23 +43,11 @@ bool WindowTimer::fire() {
 }
 
 void WindowTimer::runClock() {
-    last_ = Clock::now();
-    waitForNextTick();
-}
-
-void WindowTimer::waitForNextTick() {
-    if (!enabled_ || frozen()) return clock_.stop();
-    const auto left = last_ + std::chrono::milliseconds(interval_) - Clock::now() + HalfAStep;
-    clock_.start(std::max(std::chrono::floor<std::chrono::milliseconds>(left), 0ms));
-}
-
-void WindowTimer::timeOut() {
-    const auto due = last_ + std::chrono::milliseconds(interval_);
-    const auto now = Clock::now();
-    if (now + HalfAStep < due) return waitForNextTick();
-    last_ = now - due > MostBehind ? now : due;
-    waitForNextTick();
-    fire();
+    if (enabled_ && !frozen()) {
+        clock_.start(interval_);
+    } else {
+        clock_.stop();
+    }
 }
 
 } // namespace tabrova

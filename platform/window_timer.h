@@ -1,14 +1,14 @@
 // The program's timers by name: an interval in milliseconds, an enabled flag and a Timer event, all known to
 // one list, so that a test can stop their clocks and deliver single events. WindowTimer is the ordinary
-// periodic one, whose ticks keep time: each is due one interval after the one before was due, however late
-// that came.
+// periodic one.
 #pragma once
+
+#include "platform/timer_service.h"
 
 #include <QMap>
 #include <QObject>
 #include <QTimer>
 
-#include <chrono>
 #include <functional>
 
 namespace tabrova {
@@ -26,6 +26,7 @@ class TimerList {
     friend class ListedTimer;
     QMap<QString, ListedTimer*> timers_;
     bool frozen_ = false;
+    SystemTimerService deadlines_;
 };
 
 class ListedTimer {
@@ -44,6 +45,8 @@ class ListedTimer {
   protected:
     friend class TimerList;
     bool frozen() const { return list_.frozen(); }
+    // Calls at a given time, from a thread of its own, for timers that need it finer than the toolkit has it.
+    SystemTimerService& deadlines() { return list_.deadlines_; }
     // The list was frozen or thawed.
     virtual void runClock() = 0;
 
@@ -61,21 +64,16 @@ class WindowTimer : public QObject, public ListedTimer {
     int timerInterval() const override { return interval_; }
     bool timerEnabled() const override { return enabled_; }
     bool fire() override;
-    // At least 1 ms. The next tick of a running timer is due one new interval after its last one.
+    // At least 1 ms. A running timer starts afresh.
     void setInterval(int milliseconds);
     // true starts a new interval, also when the timer runs.
     void setEnabled(bool enabled);
 
   private:
-    using Clock = std::chrono::steady_clock;
-
     void runClock() override;
-    void waitForNextTick();
-    void timeOut();
 
     std::function<void()> tick_;
-    QTimer clock_;           // runs until the next tick
-    Clock::time_point last_; // when the last tick was due, or the timer was started
+    QTimer clock_;
     int interval_;
     bool enabled_ = false;
 };

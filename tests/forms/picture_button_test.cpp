@@ -101,6 +101,26 @@ class PictureButtons : public testing::FormTest {
 
 // Pressing
 
+TEST_F(PictureButtons, ActAsTheMouseGoesDownIfThatIsWanted) {
+    make();
+    int acts = 0;
+    button->MouseDown = [&] { ++acts; };
+    QTest::mousePress(button, Qt::LeftButton);
+    EXPECT_EQ(acts, 1);
+    QTest::mouseMove(button, {-30, -30});
+    QTest::mouseMove(button, button->rect().center());
+    QTest::mouseRelease(button, Qt::LeftButton);
+    EXPECT_EQ(acts, 1);
+    QTest::mouseClick(button, Qt::RightButton);
+    EXPECT_EQ(acts, 2);
+    QTest::keyClick(button, Qt::Key_Space);
+    QTest::keyClick(button, Qt::Key_Return);
+    EXPECT_EQ(acts, 4);
+    button->setEnabled(false);
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(acts, 4);
+}
+
 TEST_F(PictureButtons, ArePressedBySpaceReturnEnterAndTheMouseOnceEach) {
     make().setFocus();
     int expected = 0;

@@ -170,6 +170,16 @@ TEST_F(Lists, TakeNoNoticeOfOtherButtons) {
 }
 
 // Ten thousand rows would be measured one by one otherwise.
+TEST_F(Lists, KeepTheChosenRowWithTheCtrlKeyToo) {
+    const QPoint first = list.visualItemRect(list.item(0)).center();
+    for (int click = 1; click <= 3; ++click) {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ControlModifier, first);
+        EXPECT_EQ(list.chosenRow(), 0);
+    }
+    QTest::keyClick(&list, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_EQ(list.chosenRow(), 0);
+}
+
 TEST_F(Lists, HaveRowsOfOneHeight) { EXPECT_TRUE(list.uniformItemSizes()); }
 
 TEST_F(Lists, HaveNoChosenRowWhereTheKeyboardAloneStands) {

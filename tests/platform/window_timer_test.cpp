@@ -90,47 +90,6 @@ TEST_F(Timers, StartAfreshWhenTheyAreEnabledOnceMore) {
     EXPECT_TRUE(ticksAgain());
 }
 
-TEST_F(Timers, CountANewIntervalFromTheLastTick) {
-    WindowTimer clock = timer("tmr", 3600000);
-    clock.setEnabled(true);
-    QTest::qSleep(60);
-    clock.setInterval(40);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ticks, 1);
-}
-
-TEST_F(Timers, MakeUpForTicksThatCouldNotComeInTime) {
-    WindowTimer clock = timer("tmr", 50);
-    clock.setEnabled(true);
-    QTest::qSleep(260);
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-    EXPECT_GE(ticks, 5);
-}
-
-TEST_F(Timers, GiveUpTicksThatAreMoreThanASecondBehind) {
-    WindowTimer clock = timer("tmr", 300);
-    clock.setEnabled(true);
-    QTest::qSleep(1400);
-    for (int i = 0; i < 5; ++i)
-        QCoreApplication::processEvents();
-    EXPECT_EQ(ticks, 1);
-    EXPECT_TRUE(ticksAgain());
-}
-
-TEST_F(Timers, MayBeStoppedOrGivenAnotherIntervalByTheirOwnTick) {
-    std::unique_ptr<WindowTimer> clock;
-    const auto act = [&] {
-        ++ticks;
-        ticks < 3 ? clock->setInterval(ticks + 1) : clock->setEnabled(false);
-    };
-    clock = std::make_unique<WindowTimer>(list, "tmr", 1, act, nullptr);
-    clock->setEnabled(true);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks == 3; }, 20000));
-    EXPECT_EQ(clock->timerInterval(), 3);
-    EXPECT_TRUE(rests());
-}
-
 TEST_F(Timers, DeliverSingleEventsOnlyWhileEnabled) {
     WindowTimer clock = timer("tmr", 3600000);
     ListedTimer* listed = list.timers().value("tmr");

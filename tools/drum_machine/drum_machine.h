@@ -2,7 +2,7 @@
 // shows it is told of what changes by itself.
 #pragma once
 
-#include "platform/window_timer.h"
+#include "platform/steady_timer.h"
 #include "sound/midi_output.h"
 #include "tools/drum_machine/drum_song.h"
 
@@ -67,7 +67,7 @@ class DrumMachine {
     }
 
     MidiOutput& sound_;
-    WindowTimer tmrplayback_;
+    SteadyTimer tmrplayback_;
     WindowTimer tmrplaysong_; // never enabled
     std::array<std::bitset<PatternSteps>, DrumRows> shown_;
     int pattern_ = 0;

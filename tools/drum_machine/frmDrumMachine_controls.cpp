@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -85,6 +86,7 @@ QLayout* frmDrumMachine::buildSpeed() {
 QLayout* frmDrumMachine::buildCommands() {
     Command1_ = named(new QPushButton(this), "Command1");
     Command1_->setMinimumWidth(110);
+    Command1_->setToolTip("F7");
     chkPlayAll_ = named(new QCheckBox(this), "chkPlayAll");
     Command2_ = named(new QPushButton(this), "Command2");
     Command3_ = named(new QPushButton(this), "Command3");
@@ -119,6 +121,7 @@ void frmDrumMachine::connectControls() {
     connect(spnSpeed_, &QSpinBox::valueChanged, sldSpeed_, &QSlider::setValue);
     connect(chkPlayAll_, &QCheckBox::toggled, this, [this](bool all) { machine_.playsAll = all; });
     connect(Command1_, &QPushButton::clicked, this, [this] { machine_.playOrStop(); });
+    connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, this, [this] { machine_.playOrStop(); });
     connect(Command2_, &QPushButton::clicked, this, [this] { saveSong(); });
     connect(Command3_, &QPushButton::clicked, this, [this] { openSong(); });
 }

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSlider>
 
 namespace tabrova {
@@ -59,6 +60,7 @@ frmMetronome::frmMetronome(const ToolContext& context, QWidget* parent)
     Combo1_->showRow(-1, NoPreset);
     Command1_ = named(new QPushButton(this), "Command1");
     Command1_->setMinimumHeight(StartHeight);
+    Command1_->setToolTip("F7");
     auto* presets = new QHBoxLayout;
     presets->addWidget(labelOf(Combo1_, "Label1", this));
     presets->addWidget(Combo1_, 1);
@@ -128,6 +130,7 @@ void frmMetronome::connectControls() {
         showMetronome();
     });
     connect(Command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
+    connect(new QShortcut(Qt::Key_F7, this), &QShortcut::activated, this, [this] { Command1_Click(); });
 }
 
 void frmMetronome::LoadLanguage() {

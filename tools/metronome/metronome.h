@@ -2,7 +2,7 @@
 // window; whoever shows it is told of every beat and of its end.
 #pragma once
 
-#include "platform/window_timer.h"
+#include "platform/steady_timer.h"
 #include "sound/midi_output.h"
 
 namespace tabrova {
@@ -42,7 +42,7 @@ class Metronome {
     }
 
     MidiOutput& sound_;
-    WindowTimer tmr_Metronome_;
+    SteadyTimer tmr_Metronome_;
     bool running_ = false;
     int soundingBeat_ = -1;
     std::int16_t currentBeat_ = 1; // the next one

@@ -81,7 +81,7 @@ void frmPercussion::buildPictures() {
         const PictureRow& row = Pictures[each];
         pictures_[each] = pictureButton(row.name, row.picture, this);
         pictures_[each]->setIconSize({PictureSize, PictureSize});
-        connect(pictures_[each], &QAbstractButton::pressed, this, [this, &row] { pressKey(row.keyCode); });
+        pictures_[each]->MouseDown = [this, &row] { pressKey(row.keyCode); };
     }
 }
 
@@ -92,6 +92,7 @@ void frmPercussion::Form_Load() {
     for (PictureButton* picture : pictures_)
         picture->resize(picture->sizeHint());
     resize(OpeningSize);
+    showPlaying();
     showCursor();
 }
 
@@ -116,12 +117,14 @@ void frmPercussion::pressKey(int keyCode) {
 }
 
 void frmPercussion::actEnded(std::string_view, const Changes& changes) {
-    if (changes.playing) {
-        List1_->setEnabled(!playing());
-        for (PictureButton* picture : pictures_)
-            picture->setEnabled(!playing());
-    }
+    if (changes.playing) showPlaying();
     showCursor();
+}
+
+void frmPercussion::showPlaying() {
+    List1_->setEnabled(!playing());
+    for (PictureButton* picture : pictures_)
+        picture->setEnabled(!playing());
 }
 
 void frmPercussion::showCursor() { List1_->markDrum(drumUnderCursor(document())); }

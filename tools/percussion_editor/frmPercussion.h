@@ -34,6 +34,7 @@ class frmPercussion : public ToolWindow, public ActObserver {
     void pressKey(int keyCode);
     // The page takes nothing while it plays.
     bool playing() const { return context_.bench.player.playing; }
+    void showPlaying();
     void showCursor();
 
     QCheckBox* chkAuto_;

@@ -258,6 +258,15 @@ TEST_F(DrumWindow, PageKeysGoThroughThePatterns) {
     EXPECT_EQ(control<QSlider>("sldPattern").value(), 1);
 }
 
+TEST_F(DrumWindow, PlaysAndStopsByF7WhereverTheFocusIs) {
+    open();
+    form->activateWindow();
+    for (const char* shown : {"Stop", "Play"}) {
+        QTest::keyClick(form->focusWidget(), Qt::Key_F7);
+        EXPECT_EQ(control<QPushButton>("Command1").text(), shown);
+    }
+}
+
 TEST_F(DrumWindow, ClosesWithoutAMessageAndTheTimerEnds) {
     open();
     pressStep(0, 0);

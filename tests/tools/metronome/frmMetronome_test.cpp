@@ -251,6 +251,16 @@ TEST_F(MetronomeWindow, StartsAndStopsByTheSpaceBar) {
     EXPECT_EQ(caption(), "Start");
 }
 
+TEST_F(MetronomeWindow, StartsAndStopsByF7WhereverTheFocusIs) {
+    open();
+    form->activateWindow();
+    control("sld_ClickPitch").setFocus();
+    for (const char* shown : {"Stop", "Start"}) {
+        QTest::keyClick(form->focusWidget(), Qt::Key_F7);
+        EXPECT_EQ(caption(), shown);
+    }
+}
+
 TEST_F(MetronomeWindow, ClosesWithoutAMessageAndTheTimerEnds) {
     open();
     press();

@@ -132,7 +132,7 @@ TEST_F(PercussionWindow, ThePicturesMoveTheCursorAsTheMouseGoesDown) {
     QTest::keyClick(&control("Image1"), Qt::Key_Return);
     EXPECT_EQ(cursor(), std::pair(4, 0));
     QTest::mouseClick(&control("Image1"), Qt::RightButton);
-    EXPECT_EQ(cursor(), std::pair(4, 0));
+    EXPECT_EQ(cursor(), std::pair(5, 0));
 }
 
 TEST_F(PercussionWindow, TheBinEmptiesTheNote) {
