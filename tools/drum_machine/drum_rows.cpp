@@ -137,31 +137,49 @@ void DrumRowsView::mousePressEvent(QMouseEvent* event) {
     StepButton* pressed = event->button() == Qt::LeftButton ? buttonAt(event->position().toPoint()) : nullptr;
     if (!pressed) return event->ignore();
     draws_ = !pressed->isChecked();
-    drawnTo_ = pressed;
+    drawnTo_ = {pressed->row(), pressed->step()};
     pressed->setFocus(Qt::MouseFocusReason);
     writeStep(*pressed, draws_);
 }
 
 void DrumRowsView::mouseMoveEvent(QMouseEvent* event) {
     if (!drawnTo_ || !(event->buttons() & Qt::LeftButton)) return event->ignore();
-    if (StepButton* under = buttonAt(event->position().toPoint()); under && under != drawnTo_) drawTo(*under);
+    drawTo(stepAt(event->position().toPoint()));
 }
 
 void DrumRowsView::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) drawnTo_ = nullptr;
+    if (event->button() == Qt::LeftButton) drawnTo_.reset();
+}
+
+StepPlace DrumRowsView::stepAt(QPoint place) const {
+    const auto nearest = [](int at, const auto& middleOf, int count) {
+        const int last = count - 1;
+        const int apart = (middleOf(last) - middleOf(0)) / last;
+        if (at < middleOf(0)) return -((middleOf(0) - at + apart / 2) / apart);
+        if (at > middleOf(last)) return last + (at - middleOf(last) + apart / 2) / apart;
+        int found = 0;
+        for (int each = 1; each < count; ++each)
+            if (std::abs(middleOf(each) - at) < std::abs(middleOf(found) - at)) found = each;
+        return found;
+    };
+    const auto middleOfRow = [this](int row) { return button(row, 0).geometry().center().y(); };
+    const auto middleOfStep = [this](int step) { return button(0, step).geometry().center().x(); };
+    return {nearest(place.y(), middleOfRow, DrumRows), nearest(place.x(), middleOfStep, PatternSteps)};
 }
 
 // A mouse that is drawn fast passes over steps without an event there: those on the straight way are written.
-void DrumRowsView::drawTo(StepButton& to) {
-    const int rows = to.row() - drawnTo_->row(), steps = to.step() - drawnTo_->step();
+void DrumRowsView::drawTo(StepPlace to) {
+    const int rows = to.row - drawnTo_->row, steps = to.step - drawnTo_->step;
     const int way = std::max(std::abs(rows), std::abs(steps));
     const auto rounded = [way](int part, int whole) {
         return (2 * part * whole + (whole < 0 ? -way : way)) / (2 * way);
     };
-    const StepButton& from = *drawnTo_;
-    for (int part = 1; part <= way; ++part)
-        writeStep(button(from.row() + rounded(part, rows), from.step() + rounded(part, steps)), draws_);
-    drawnTo_ = &to;
+    for (int part = 1; part <= way; ++part) {
+        const int row = drawnTo_->row + rounded(part, rows), step = drawnTo_->step + rounded(part, steps);
+        if (row >= 0 && row < DrumRows && step >= 0 && step < PatternSteps)
+            writeStep(button(row, step), draws_);
+    }
+    drawnTo_ = to;
 }
 
 void DrumRowsView::keyPressEvent(QKeyEvent* event) {

@@ -9,11 +9,18 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QComboBox;
 class QSlider;
 
 namespace tabrova {
+
+// May be outside the grid.
+struct StepPlace {
+    int row;
+    int step;
+};
 
 class DrumRowsView : public QWidget {
   public:
@@ -45,16 +52,18 @@ class DrumRowsView : public QWidget {
   private:
     StepButton& button(int row, int step) const;
     StepButton* buttonAt(QPoint place) const;
-    void drawTo(StepButton& to);
+    // The step nearest to the place; outside the grid, the one that would stand there if it went on.
+    StepPlace stepAt(QPoint place) const;
+    void drawTo(StepPlace to);
     void writeStep(StepButton& step, bool set);
     void takeTabKey(StepButton& step);
 
     std::array<QComboBox*, DrumRows> lstInstrument_;
     std::array<QSlider*, DrumRows> sldVolume_;
     std::array<std::array<StepButton*, PatternSteps>, DrumRows> steps_;
-    StepButton* current_ = nullptr; // the Tab key comes to this one
-    StepButton* drawnTo_ = nullptr; // while the mouse is held down
-    bool draws_ = false;            // what the mouse writes
+    StepButton* current_ = nullptr;    // the Tab key comes to this one
+    std::optional<StepPlace> drawnTo_; // while the mouse is held down
+    bool draws_ = false;               // what the mouse writes
     int sounding_ = -1;
 };
 

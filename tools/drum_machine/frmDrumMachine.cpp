@@ -105,6 +105,8 @@ void frmDrumMachine::showRows() {
         rows_->showRow(row, shown.drum, shown.volume);
     }
     sldSpeed_->setValue(machine_.song.speed);
+    for (int pattern = 0; pattern < SongPatterns; ++pattern)
+        showSteps(pattern);
 }
 
 void frmDrumMachine::showPlayer() {

@@ -76,13 +76,33 @@ TEST_F(WrittenSteps, OnTheStraightWayOfAFastMouseAreWritten) {
     EXPECT_EQ(drawn, (Places{{9, 5}, {10, 5}, {11, 4}, {12, 4}, {13, 3}, {14, 3}, {15, 2}}));
 }
 
-TEST_F(WrittenSteps, StayWhereTheMouseHasLeftTheGrid) {
+TEST_F(WrittenSteps, OnTheWayOutOfTheGridAreWrittenAndNoneOutside) {
     open();
-    down(3, 3);
-    mouse(QEvent::MouseMove, QPoint(2, 2), Qt::NoButton, Qt::LeftButton);
-    mouse(QEvent::MouseMove, QPoint(-50, 9999), Qt::NoButton, Qt::LeftButton);
-    up(5, 3);
-    EXPECT_EQ(blue(), (Places{{3, 3}}));
+    const int y = middle(3, 2).y();
+    down(3, 2);
+    mouse(QEvent::MouseMove, QPoint(2, y), Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, QPoint(-9999, y), Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, QPoint(-9999, 99999), Qt::NoButton, Qt::LeftButton);
+    mouse(QEvent::MouseMove, QPoint(99999, 99999), Qt::NoButton, Qt::LeftButton);
+    EXPECT_EQ(blue(), (Places{{3, 0}, {3, 1}, {3, 2}}));
+    const QPoint below(middle(15, 15).x(), middle(15, 15).y() + 99);
+    mouse(QEvent::MouseMove, below, Qt::NoButton, Qt::LeftButton);
+    moveTo(14, 15);
+    up(14, 15);
+    EXPECT_EQ(blue(), (Places{{3, 0}, {3, 1}, {3, 2}, {14, 15}, {15, 15}}));
+}
+
+TEST_F(WrittenSteps, InAGapBetweenTwoBeatsTheNearestIsWritten) {
+    open();
+    const QPoint third = middle(0, 3), fourth = middle(0, 4);
+    down(0, 2);
+    mouse(QEvent::MouseMove, QPoint((third.x() + fourth.x()) / 2 - 2, third.y()), Qt::NoButton,
+          Qt::LeftButton);
+    EXPECT_EQ(blue(), (Places{{0, 2}, {0, 3}}));
+    mouse(QEvent::MouseMove, QPoint((third.x() + fourth.x()) / 2 + 2, third.y()), Qt::NoButton,
+          Qt::LeftButton);
+    up(0, 4);
+    EXPECT_EQ(blue(), (Places{{0, 2}, {0, 3}, {0, 4}}));
 }
 
 TEST_F(WrittenSteps, TakeTheLeftButtonOnly) {
@@ -228,10 +248,11 @@ TEST_F(UsedPatterns, ShowWhichOneSounds) {
     const QImage before = bar(3);
     control<QCheckBox>("chkPlayAll").setChecked(true);
     press("Command1");
-    for (int position = 0; position < 48; ++position)
+    for (int position = 0; position < 32; ++position)
         tick();
     EXPECT_EQ(bar(3), before);
-    tick();
+    for (int position = 32; position <= 48; ++position)
+        tick();
     EXPECT_NE(bar(3), before);
     press("Command1");
     EXPECT_EQ(bar(3), before);

@@ -26,7 +26,7 @@ inline std::string plainBeat(std::size_t row) {
 }
 
 // A number of 16 bits, halves to the even neighbour; none for any other text.
-inline std::optional<int> plainNumber(const std::string& text) {
+inline std::optional<int> plainBars(const std::string& text) {
     static const std::regex number(" *[+-]?([0-9]+\\.?[0-9]*|\\.[0-9]+)([eE][+-]?[0-9]+)? *");
     if (!std::regex_match(text, number)) return std::nullopt;
     const double value = std::nearbyint(std::strtod(text.c_str(), nullptr));
@@ -59,7 +59,7 @@ struct PlainMetronome {
     }
     // The box's whole text becomes this one.
     void setBars(const std::string& text) {
-        const auto number = plainNumber(text);
+        const auto number = plainBars(text);
         barsText = number ? text : "8";
         bars = number.value_or(8);
         barsSelected = !number;
