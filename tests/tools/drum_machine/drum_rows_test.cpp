@@ -1,8 +1,10 @@
 // Writing steps by hand: drawing over them, and keys.
 #include "tests/tools/drum_machine/drum_window.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyleOptionSlider>
+#include <QToolTip>
 
 namespace tabrova::testing {
 namespace {
@@ -241,6 +243,50 @@ TEST_F(UsedPatterns, AreChosenByAClick) {
     QTest::mouseClick(&strip(), Qt::LeftButton, {}, barOf(7));
     EXPECT_EQ(control<QSlider>("sldPattern").value(), 0);
     EXPECT_TRUE(timers.timers()["tmrplayback"]->timerEnabled());
+}
+
+TEST_F(UsedPatterns, AreGoneThroughByTheMouseHeldDown) {
+    open();
+    QTest::mousePress(&strip(), Qt::LeftButton, {}, barOf(3));
+    for (const int pattern : {9, 30, 29}) {
+        QMouseEvent move(QEvent::MouseMove, barOf(pattern), strip().mapToGlobal(barOf(pattern)), Qt::NoButton,
+                         Qt::LeftButton, {});
+        QApplication::sendEvent(&strip(), &move);
+        EXPECT_EQ(control<QSlider>("sldPattern").value(), pattern);
+    }
+    QTest::mouseRelease(&strip(), Qt::LeftButton, {}, barOf(29));
+    QMouseEvent move(QEvent::MouseMove, barOf(50), strip().mapToGlobal(barOf(50)), Qt::NoButton, Qt::NoButton,
+                     {});
+    QApplication::sendEvent(&strip(), &move);
+    EXPECT_EQ(control<QSlider>("sldPattern").value(), 29);
+}
+
+TEST_F(UsedPatterns, TellTheirStepsToThePointer) {
+    open();
+    setPattern(12);
+    for (int at = 0; at < 3; ++at)
+        pressStep(5, at);
+    for (const auto& [pattern, text] : {std::pair{12, "12 – Steps: 3"}, {13, "13 – Steps: 0"}}) {
+        QHelpEvent help(QEvent::ToolTip, barOf(pattern), strip().mapToGlobal(barOf(pattern)));
+        QApplication::sendEvent(&strip(), &help);
+        EXPECT_EQ(QToolTip::text().toStdString(), text);
+    }
+    QToolTip::hideText();
+}
+
+TEST_F(UsedPatterns, AreThoseOfTheFileThatWasOpened) {
+    open();
+    setPattern(4);
+    pressStep(0, 0);
+    files.queueAnswer(QString::fromStdString(file("song")));
+    press("Command2");
+    pressStep(0, 0);
+    const QImage unused = bar(4);
+    files.queueAnswer(QString::fromStdString(file("song")));
+    press("Command3");
+    EXPECT_EQ(control<QLabel>("lblSteps").text(), "Steps: 1");
+    setPattern(50);
+    EXPECT_NE(bar(4), unused);
 }
 
 TEST_F(UsedPatterns, ShowWhichOneSounds) {
