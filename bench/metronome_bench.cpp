@@ -1,7 +1,7 @@
-// When the clicks of the metronome's window come: how late each is, counted from the start, and by how much
-// the last hundred are later than the first hundred. With an idle desk, and with a document that is typed
-// into so many times a second: ten are a fast typist, sixty a key that is held down. The yardstick is a plain
-// loop that sleeps to the same times.
+// When the clicks of the metronome's window come: how late each is, counted from the soonest one, and by how
+// much the last hundred are later than the first hundred. With an idle desk, and with a document that is
+// typed into so many times a second: ten are a fast typist, sixty a key that is held down. The yardstick is a
+// plain loop that sleeps to the same times.
 #include "platform/recording_services.h"
 #include "shell/frmMain.h"
 #include "sound/beat_time.h"
@@ -143,12 +143,16 @@ void ClickLateness(benchmark::State& state) {
                                program.midi.clicks[n] - start -
                                std::chrono::milliseconds(interval * static_cast<int>(n + 1)))
                                .count());
+        // Until the timer was started the window did other things: time counts from the click that came
+        // soonest.
+        const double soonest = *std::min_element(late.begin(), late.end());
+        for (double& each : late)
+            each -= soonest;
         const auto within =
             std::count_if(late.begin(), late.end(), [](double each) { return std::abs(each) <= 2.0; });
         state.counters["within_2ms_%"] = 100.0 * static_cast<double>(within) / Clicks;
         state.counters["drift_ms"] =
             meanOf(late.end() - static_cast<std::ptrdiff_t>(Ends), Ends) - meanOf(late.begin(), Ends);
-        state.counters["earliest_ms"] = *std::min_element(late.begin(), late.end());
         state.counters["latest_ms"] = *std::max_element(late.begin(), late.end());
         state.counters["mean_ms"] = meanOf(late.begin(), Clicks);
         state.counters["times_sleep"] = meanDistance(late) / sleepDistance(interval);
