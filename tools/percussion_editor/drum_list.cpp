@@ -33,8 +33,12 @@ class DrumDelegate : public QStyledItemDelegate {
         const auto group = (option.state & QStyle::State_Enabled) ? QPalette::Active : QPalette::Disabled;
         painter->save();
         if (marked) painter->fillRect(option.rect, colors.color(group, QPalette::Highlight));
-        if (option.state & QStyle::State_Selected) {
-            painter->setPen(colors.color(group, marked ? QPalette::HighlightedText : QPalette::Highlight));
+        // Where the keyboard is, the row may not be chosen yet.
+        const bool chosen = option.state & QStyle::State_Selected;
+        if (chosen || (option.state & QStyle::State_HasFocus)) {
+            const QColor frame =
+                colors.color(group, marked ? QPalette::HighlightedText : QPalette::Highlight);
+            painter->setPen(QPen(frame, 1, chosen ? Qt::SolidLine : Qt::DotLine));
             painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
         }
         painter->setPen(colors.color(group, marked ? QPalette::HighlightedText : QPalette::Text));

@@ -240,6 +240,21 @@ TEST_F(PercussionWindow, TheListHasAsManyColumnsAsItsWidthTells) {
     }
 }
 
+TEST_F(PercussionWindow, ShowsWhereTheKeyboardIsBeforeADrumIsChosen) {
+    open();
+    form->activateWindow();
+    const auto firstRow = [&] {
+        return list->viewport()->grab(list->visualItemRect(list->item(0))).toImage();
+    };
+    list->setFocus(Qt::TabFocusReason);
+    QApplication::processEvents();
+    ASSERT_EQ(list->currentRow(), 0);
+    EXPECT_EQ(list->chosenRow(), -1);
+    const QImage focused = firstRow();
+    control("chkAuto").setFocus(Qt::TabFocusReason);
+    EXPECT_NE(firstRow(), focused);
+}
+
 TEST_F(PercussionWindow, ArrowKeysInTheListWriteTheDrumTheyComeTo) {
     open();
     clickDrum(4);
