@@ -7,7 +7,7 @@
 
 namespace tabrova {
 
-QString fromCodePage(const std::string& bytes) {
+QString fromCodePage(std::string_view bytes) {
     QString text;
     text.reserve(static_cast<qsizetype>(bytes.size()));
     for (const char c : bytes)

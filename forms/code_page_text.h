@@ -7,12 +7,13 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 class QLineEdit;
 
 namespace tabrova {
 
-QString fromCodePage(const std::string& bytes);
+QString fromCodePage(std::string_view bytes);
 // A title or a name as windows show it, its beginning if it is a long one.
 QString shownName(const std::string& bytes);
 // A character that the page does not hold becomes "?"; text boxes refuse such characters before it comes to

@@ -1,4 +1,4 @@
-// The print surface: one text in one font.
+// The print surface: one text in one font of fixed width.
 #pragma once
 
 #include <QList>
@@ -7,18 +7,25 @@
 
 #include <utility>
 
+class QPrinter;
+
 namespace tabrova {
 
 struct PrintJob {
-    QString text;
+    QString name; // for the printer's queue
+    QString text; // lines end in LF
     QString fontFamily;
     int pointSize = 0;
-    double left = 0.0; // offset of the text from the printable area, in points
+    double left = 0.0; // offset of the text from the printable area, in millimetres
     double top = 0.0;
 };
 
-// The printer's page with the job's offset inside its left and top margins; the other two stay.
+// The printer's page with the text's corner where the job tells. To the right and below the printer's own
+// margins stay.
 QPageLayout layoutFor(const PrintJob& job, QPageLayout printersOwn);
+
+// On as many pages as it takes, those of the printer's range alone if it has one.
+void printOn(QPrinter& printer, const PrintJob& job);
 
 class TextPrinter {
   public:

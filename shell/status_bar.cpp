@@ -1,5 +1,7 @@
 #include "shell/status_bar.h"
 
+#include "forms/elided_label.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -9,28 +11,9 @@ namespace tabrova {
 
 namespace {
 
-// Shows as much of its text as there is room for.
-class StatusPanel : public QLabel {
-  public:
-    using QLabel::QLabel;
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(
-            palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-        painter.drawText(rect(), Qt::AlignVCenter | Qt::AlignLeft,
-                         fontMetrics().elidedText(text(), Qt::ElideRight, width()));
-    }
-};
-
 QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
-    auto* panel = new StatusPanel(bar);
-    panel->setObjectName(name);
-    panel->setTextFormat(Qt::PlainText);
+    auto* panel = new ElidedLabel(name, Qt::ElideRight, bar);
     panel->setCursor(Qt::PointingHandCursor);
-    panel->setMinimumWidth(0);
-    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bar->layout())->addWidget(panel, stretch);
     return panel;
 }

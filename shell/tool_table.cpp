@@ -2,7 +2,9 @@
 #include "organisers/about/frmAbout.h"
 #include "organisers/file_properties/frmFileProperties.h"
 #include "organisers/instruments/frmInstrumentSelector.h"
+#include "organisers/midi_export/frmMIDIExport.h"
 #include "organisers/options/frmOptions.h"
+#include "organisers/text_export/frmExport.h"
 #include "organisers/track_properties/frmTrackProperties.h"
 #include "organisers/welcome/frmAltSplash.h"
 #include "shell/tool_windows.h"
@@ -28,6 +30,8 @@ constexpr ToolRow ToolTable[] = {
     {"frmInstrumentSelector", "", make<frmInstrumentSelector>, Keeping::UntilTheEnd},
     {"frmFileProperties", "mnuFileProperties", make<frmFileProperties>},
     {"frmTrackProperties", "mnuTrackProps", make<frmTrackProperties>},
+    {"frmMIDIExport", "mnuExportMidiFile", make<frmMIDIExport>},
+    {"frmExport", "", make<frmExport>},
     {"frmAbout", "mnuAbout", make<frmAbout>},
     {"frmAltSplash", "", make<frmAltSplash>},
     {"frmChordWizard", "mnuChordManager", make<frmChordWizard>},

@@ -5,7 +5,9 @@
 
 #include "workbench/document_commands.h"
 #include "workbench/entry_commands.h"
+#include "workbench/export_commands.h"
 #include "workbench/help_commands.h"
+#include "workbench/import_commands.h"
 #include "workbench/language_commands.h"
 #include "workbench/playback_commands.h"
 #include "workbench/structure_commands.h"
@@ -19,6 +21,8 @@ struct Commands {
     void registerRows(CommandTable& table);
 
     DocumentCommands documents;
+    ImportCommands imports;
+    ExportCommands exports;
     TrackCommands& tracks;
     PropertyCommands& properties;
     ChordEntry& chords;

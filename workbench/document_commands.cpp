@@ -4,18 +4,11 @@
 #include "core/document/document_operations.h"
 #include "core/files/regular_file.h"
 #include "core/text/code_page.h"
+#include "forms/code_page_text.h"
 #include "platform/box_title.h"
 #include "platform/paths.h"
 
 namespace tabrova {
-
-namespace {
-
-QString literal(std::string_view text) {
-    return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
 
 DocumentCommands::DocumentCommands(Workbench& bench, ToolOpener& tools, const MenuState& menus)
     : bench_(bench), document_(bench.document), editor_(bench.editor), services_(bench.services),
@@ -29,7 +22,6 @@ void DocumentCommands::registerRows(CommandTable& table) {
     table.wordOfItem("new", "mnuFileNew");
     table.wordOfItem("open", "mnuFileOpen");
     table.wordOfItem("save", "mnuFileSave");
-    table.wordOfItem("print", "mnuFilePrint");
     table.wordOfItem("properties", "mnuFileProperties");
 }
 
@@ -45,7 +37,7 @@ bool DocumentCommands::confirmLeaving() {
 
 bool DocumentCommands::askForName(FileQuestion::Kind kind) {
     const auto answer = services_.files.choose(
-        {kind, literal(DocumentFilter), literal(DocumentExtension), CommonDialog1.fileName});
+        {kind, fromCodePage(DocumentFilter), fromCodePage(DocumentExtension), CommonDialog1.fileName});
     if (answer) CommonDialog1.fileName = *answer;
     return answer.has_value();
 }

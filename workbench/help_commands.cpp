@@ -1,5 +1,7 @@
 #include "workbench/help_commands.h"
 
+#include "workbench/installation.h"
+
 namespace tabrova {
 
 void HelpCommands::registerRows(CommandTable& table) {
@@ -17,7 +19,7 @@ void HelpCommands::mnuNewVersionCheck() {
 }
 
 void HelpCommands::openSettingAddress(const QString& key, const QString& otherwise) {
-    services_.addresses.open(services_.settings.GetSetting("Installation", key, otherwise));
+    services_.addresses.open(installationAddress(services_.settings, key, otherwise));
 }
 
 } // namespace tabrova

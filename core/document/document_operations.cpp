@@ -88,6 +88,8 @@ void assignTuning(Document& document, std::int16_t s1, std::int16_t s2, std::int
 
 int staffStart(const Document& document) { return (document.CurrentStaff - 1) * ColumnsPerStaff; }
 
+void moveToFirstColumn(Document& document) { document.CurrentColumn = 0; }
+
 std::int32_t GetCurrentXPosition(Document& document) {
     document.CurrentColumn = staffStart(document) + document.ColumnInStaff;
     return document.CurrentColumn;

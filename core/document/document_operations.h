@@ -13,6 +13,9 @@ constexpr std::int16_t MostStaves = 32767;
 // False if the sizes are negative or the grids would not fit: nothing is changed then.
 bool ResizeGrids(Document& document, std::int32_t columns, std::int32_t rows);
 
+// CurrentColumn alone becomes 0; the cursor stays where it is.
+void moveToFirstColumn(Document& document);
+
 // One empty staff more at the end. False if the document cannot grow.
 bool growByOneStaff(Document& document);
 

@@ -1,6 +1,7 @@
 #include "core/files/entry_file.h"
 
 #include "core/files/regular_file.h"
+#include "core/files/replaced_file.h"
 
 #include <algorithm>
 #include <fstream>
@@ -24,19 +25,10 @@ std::string readBytes(const fs::path& file, std::size_t most) {
     return bytes;
 }
 
-// Whether a file may be made or replaced there. A link goes, so that nothing is written where it leads.
-bool makeRoom(const fs::path& file) {
-    std::error_code failed;
-    const fs::file_status there = fs::symlink_status(file, failed);
-    if (fs::is_symlink(there)) return fs::remove(file, failed);
-    return there.type() == fs::file_type::not_found || fs::is_regular_file(there);
-}
-
 } // namespace
 
 // Commas in double quotes belong to the item, wherever in it the quotes stand.
-std::string_view firstItem(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \t"), text.size()));
+std::string_view itemAt(std::string_view text) {
     bool quoted = false;
     std::size_t end = 0;
     for (; end < text.size(); ++end) {
@@ -50,6 +42,10 @@ std::string_view firstItem(std::string_view text) {
     return text.substr(0, text.find('"'));
 }
 
+std::string_view firstItem(std::string_view text) {
+    return itemAt(text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
+}
+
 std::optional<std::string> readFirstItem(const fs::path& file) {
     const std::string bytes = readBytes(file, MostBytes);
     return bytes.empty() ? std::nullopt : std::optional(std::string(firstItem(bytes)));
@@ -58,7 +54,7 @@ std::optional<std::string> readFirstItem(const fs::path& file) {
 bool writeEntryFile(const fs::path& file, std::string_view line) {
     std::string text(line);
     text += LineEnd;
-    if (!makeRoom(file)) return false;
+    if (!makeRoomForFile(file)) return false;
     if (readBytes(file, text.size() + 1) == text) return true;
     std::ofstream output(file, std::ios::binary | std::ios::trunc);
     if (!output) return false;

@@ -13,6 +13,8 @@ namespace tabrova {
 // the first line end or the first comma outside double quotes. Of an item in double quotes it is what stands
 // between them.
 std::string_view firstItem(std::string_view text);
+// The same of a text that begins with the item: blanks before it belong to it.
+std::string_view itemAt(std::string_view text);
 
 // That of the file, of which at most a megabyte is looked at. Nothing if the file is not there, cannot be
 // read, is no regular file or has no bytes.

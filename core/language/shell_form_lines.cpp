@@ -60,6 +60,10 @@ constexpr LanguageLine MidiExport[] = {
     caption(341, "Command3", "Cancel"),
     message(342, "noFile", "Please choose a file to export to first."),
     message(343, "exported", "The MIDI file has been exported successfully."),
+    toolTip(536, "Command6", "Add the Track to the Queue"),
+    toolTip(537, "Command7", "Remove the Track from the Queue"),
+    toolTip(538, "Command4", "Raise the Number"),
+    toolTip(539, "Command5", "Lower the Number"),
 };
 
 constexpr LanguageLine Splash[] = {

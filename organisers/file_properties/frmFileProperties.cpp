@@ -25,7 +25,7 @@ constexpr int LargeSpeedStep = 5;
 constexpr int LongestName = 30; // characters
 
 // The document's line ends are CR LF.
-QString textOfNotes(std::string_view notes) { return fromCodePage(std::string(notes)).replace("\r\n", "\n"); }
+QString textOfNotes(std::string_view notes) { return fromCodePage(notes).replace("\r\n", "\n"); }
 
 std::string bytesOfNotes(const QString& text) { return toCodePage(QString(text).replace("\n", "\r\n")); }
 

@@ -1,0 +1,61 @@
+#include "sound/midi_file.h"
+
+#include <algorithm>
+
+namespace tabrova {
+
+namespace {
+
+constexpr std::uint32_t FormatOfManyTracks = 1;
+constexpr std::uint32_t HeadLength = 6;
+constexpr std::string_view EndOfTrack("\x00\xFF\x2F\x00", 4);
+
+void appendNumber(std::string& bytes, std::uint32_t number, int width) {
+    for (int shift = 8 * (width - 1); shift >= 0; shift -= 8)
+        bytes.push_back(static_cast<char>(number >> shift));
+}
+
+bool hasOneDataByte(std::uint8_t status) { return (status & 0xE0) == 0xC0; }
+
+} // namespace
+
+// Seven bits a byte, the highest first; all but the last have the eighth bit set.
+void MidiFileTrack::addTime(std::uint32_t ticks) {
+    ticks = std::min(ticks, MidiFile::MostTicks);
+    for (int shift = 21; shift > 0; shift -= 7)
+        if (ticks >> shift != 0) addByte((ticks >> shift & 0x7F) | 0x80);
+    addByte(ticks & 0x7F);
+}
+
+void MidiFileTrack::addMessage(std::uint32_t ticks, std::uint8_t status, std::uint8_t data1,
+                               std::uint8_t data2) {
+    addTime(ticks);
+    addByte(status);
+    addByte(data1);
+    if (!hasOneDataByte(status)) addByte(data2);
+}
+
+void MidiFileTrack::addTempo(std::uint32_t ticks, std::uint32_t microsecondsOfQuarter) {
+    addTime(ticks);
+    events_.append("\xFF\x51\x03", 3);
+    appendNumber(events_, std::min(microsecondsOfQuarter, MidiFile::LongestQuarter), 3);
+}
+
+void MidiFileTrack::appendTo(std::string& file) const {
+    file.append("MTrk");
+    appendNumber(file, static_cast<std::uint32_t>(events_.size() + EndOfTrack.size()), 4);
+    file.append(events_).append(EndOfTrack);
+}
+
+std::string MidiFile::bytes() const {
+    std::string file = "MThd";
+    appendNumber(file, HeadLength, 4);
+    appendNumber(file, FormatOfManyTracks, 2);
+    appendNumber(file, static_cast<std::uint32_t>(tracks.size()), 2);
+    appendNumber(file, std::clamp<std::uint32_t>(ticksOfQuarter, 1, MostTicksOfQuarter), 2);
+    for (const MidiFileTrack& track : tracks)
+        track.appendTo(file);
+    return file;
+}
+
+} // namespace tabrova
