@@ -63,7 +63,9 @@ class Importer {
 
     bool run() {
         if (!cutHeader()) return false;
-        if (!ResizeGrids(document_, document_.StaffCount * ColumnsPerStaff, StringsPerTrack)) return false;
+        if (document_.StaffCount < 1 ||
+            !ResizeGrids(document_, document_.StaffCount * ColumnsPerStaff, StringsPerTrack))
+            return false;
         if (!cutStaves()) return false;
         if (!fields_.cutInto(document_.Author) || !fields_.cutInto(document_.Title)) return false;
         closeGaps();

@@ -17,8 +17,9 @@ constexpr std::string_view OldDocumentExtension = "trx";
 // beginning.
 std::optional<std::string> readOldDocumentItem(const std::filesystem::path& file);
 
-// Overwrites a document that was just made new. False if a field or a cell is no number, the text ends too
-// early or a separator stands in the last column: the document then stands as far as the reading came.
+// Overwrites a document that was just made new. False if a field or a cell is no number, there is no staff,
+// the text ends too early or a separator stands in the last column: the document then stands as far as the
+// reading came.
 bool readOldDocument(Document& document, std::string_view item);
 
 } // namespace tabrova

@@ -88,6 +88,20 @@ TEST_F(OldDocumentField, TheMostStavesHaveRoomAndAreReadAsFarAsTheFileGoes) {
     EXPECT_EQ(document.note(31, 5), "21");
 }
 
+TEST_F(OldDocumentField, WithoutStavesNothingIsReadBehindTheHeader) {
+    file.tuning = {1, 2, 3, 4, 5, 6};
+    for (const auto& [staves, count] : {std::pair{"    0", 0}, {"0.9  ", 0}, {"   -1", -1}, {"-3.9 ", -3}}) {
+        EXPECT_FALSE(readWith(OldStavesAt, staves)) << staves;
+        EXPECT_EQ(document.StaffCount, count);
+        EXPECT_EQ(document.TuningTable, (std::vector<std::int16_t>{7, 6, 5, 4, 3, 2}));
+        EXPECT_EQ(document.ColumnCapacity, 32);
+        EXPECT_EQ(document.NoteGrid.columns(), 32);
+        EXPECT_EQ(document.BarMarkRow.size(), 32u);
+        EXPECT_EQ(document.ColumnInStaff, 0);
+        EXPECT_EQ(document.Author, "Anonymous");
+    }
+}
+
 TEST_F(OldDocumentField, ATuningThatIsNoNumberLeavesTheHigherStringsInStandardTuning) {
     file.tuning = {1, 2, 3, 4, 5, 6};
     file.staves = 2;
