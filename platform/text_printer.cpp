@@ -13,39 +13,51 @@ namespace tabrova {
 
 namespace {
 
-PageSize pageSizeOf(const QPrinter& printer, const QFont& font) {
-    const QSizeF character = characterSize(font, printer);
-    const QRect page = printer.pageLayout().paintRectPixels(printer.resolution());
-    return {std::max(1, static_cast<int>(page.width() / character.width())),
-            std::max(1, static_cast<int>(page.height() / character.height()))};
+constexpr double MillimetresOfInch = 25.4;
+
+PageSize sizeOf(const QSizeF& area, const QSizeF& character) {
+    return {std::max(1, static_cast<int>(area.width() / character.width())),
+            std::max(1, static_cast<int>(area.height() / character.height()))};
+}
+
+struct PageRange {
+    int first; // from 0
+    int last;
+};
+
+PageRange rangeOf(const QPrinter& printer, int pages) {
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() < 1) return {0, pages - 1};
+    const int first = std::min(printer.fromPage(), pages);
+    return {first - 1, std::clamp(printer.toPage(), first, pages) - 1};
 }
 
 } // namespace
 
-QPageLayout layoutFor(const PrintJob& job, QPageLayout printersOwn) {
-    printersOwn.setUnits(QPageLayout::Millimeter);
-    const QMarginsF least = printersOwn.minimumMargins();
-    QMarginsF margins = printersOwn.margins();
-    margins.setLeft(least.left() + job.left);
-    margins.setTop(least.top() + job.top);
-    printersOwn.setMargins(margins);
-    return printersOwn;
+QRectF textArea(const PrintJob& job, const QPageLayout& sheet) {
+    QPageLayout layout = sheet;
+    layout.setUnits(QPageLayout::Millimeter);
+    const QMarginsF least = layout.minimumMargins();
+    const QMarginsF own = layout.margins();
+    return layout.fullRect().adjusted(least.left() + job.left, least.top() + job.top, -own.right(),
+                                      -own.bottom());
 }
 
+// The painter's origin is the sheet's corner, since the toolkit's margins are whole points.
 void printOn(QPrinter& printer, const PrintJob& job) {
     printer.setDocName(job.name);
-    printer.setPageLayout(layoutFor(job, printer.pageLayout()));
+    printer.setFullPage(true);
+    const double scale = printer.resolution() / MillimetresOfInch;
+    const QRectF area = textArea(job, printer.pageLayout());
     const QFont font = fixedFont(job.fontFamily, job.pointSize);
-    const QList<QStringList> pages = pagesOf(job.text, pageSizeOf(printer, font));
-    const int count = static_cast<int>(pages.size());
-    const bool range = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
-    const int first = range ? std::min(printer.fromPage(), count) : 1;
-    const int last = range ? std::clamp(printer.toPage(), first, count) : count;
+    const QList<QStringList> pages =
+        pagesOf(job.text, sizeOf(area.size() * scale, characterSize(font, printer)));
+    const PageRange range = rangeOf(printer, static_cast<int>(pages.size()));
     QPainter painter;
     if (!painter.begin(&printer)) return;
-    for (int page = first; page <= last; ++page) {
-        if (page > first && !printer.newPage()) return;
-        paintPage(painter, pages[page - 1], font);
+    painter.translate(area.topLeft() * scale);
+    for (int page = range.first; page <= range.last; ++page) {
+        if (page > range.first && !printer.newPage()) return;
+        paintPage(painter, pages[page], font);
     }
 }
 

@@ -20,9 +20,9 @@ struct PrintJob {
     double top = 0.0;
 };
 
-// The printer's page with the text's corner where the job tells. To the right and below the printer's own
+// Where the text stands on a sheet, in millimetres from its corner. To the right and below the printer's own
 // margins stay.
-QPageLayout layoutFor(const PrintJob& job, QPageLayout printersOwn);
+QRectF textArea(const PrintJob& job, const QPageLayout& sheet);
 
 // On as many pages as it takes, those of the printer's range alone if it has one.
 void printOn(QPrinter& printer, const PrintJob& job);

@@ -30,6 +30,10 @@ class MIDIFile {
         BeginTrack = 9, // the events from here on belong to the numbered tracks
     };
 
+    // Events beyond this many bytes are not taken: only a piece that repeats for days has so many.
+    static constexpr std::size_t MostBytes = 256 * 1024 * 1024;
+    explicit MIDIFile(std::size_t mostBytes = MostBytes) : mostBytes_(mostBytes) {}
+
     // Numbers round half to even, and those outside a byte's range take its nearest value.
     void setInteger(Property property, std::int16_t value);
     void setNumber(Property property, double value);
@@ -39,9 +43,7 @@ class MIDIFile {
 
     const std::filesystem::path& fileName() const { return fileName_; }
 
-    // Events beyond this many bytes are not taken: only a piece that repeats for days has so many.
-    static constexpr std::size_t MostBytes = 256 * 1024 * 1024;
-    bool isFull() const { return size_ >= MostBytes; }
+    bool isFull() const { return size_ >= mostBytes_; }
 
     // What WriteAndClose writes.
     std::string bytes() const { return file_.bytes(); }
@@ -52,6 +54,7 @@ class MIDIFile {
     void addTempo();
     void addEvent();
 
+    std::size_t mostBytes_;
     MidiFile file_;
     std::size_t size_ = 0;
     std::filesystem::path fileName_;

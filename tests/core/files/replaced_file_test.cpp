@@ -67,5 +67,42 @@ TEST_F(ReplacedFile, APipeTakesNothing) {
     EXPECT_TRUE(fs::is_fifo(file));
 }
 
+TEST_F(ReplacedFile, TakesBytesAsTheyStand) {
+    std::ofstream(file) << std::string(1000, 'x');
+    const std::string bytes("\0\r\n\xFF end", 8);
+    EXPECT_EQ(replaceFile(file, bytes), Replaced::Whole);
+    EXPECT_EQ(bytesOf(file), bytes);
+    EXPECT_EQ(replaceFile("/dev/full", bytes), Replaced::InPart);
+    EXPECT_EQ(replaceFile(folder.path(), bytes), Replaced::NotOpened);
+}
+
+TEST_F(ReplacedFile, TheProgramsOwnHasRoomWhereNothingOrAFileStands) {
+    EXPECT_TRUE(makeRoomForFile(file));
+    std::ofstream(file) << "old";
+    EXPECT_TRUE(makeRoomForFile(file));
+    EXPECT_EQ(bytesOf(file), "old");
+}
+
+TEST_F(ReplacedFile, ALinkInThePlaceOfTheProgramsOwnGoesAndWhatItLeadsToStays) {
+    const fs::path other = folder.path() / "other";
+    std::ofstream(other) << "other's";
+    for (const fs::path& target : {other, folder.path(), folder.path() / "missing", fs::path("/dev/null")}) {
+        fs::create_symlink(target, file);
+        EXPECT_TRUE(makeRoomForFile(file));
+        EXPECT_FALSE(fs::exists(fs::symlink_status(file)));
+    }
+    EXPECT_EQ(bytesOf(other), "other's");
+}
+
+TEST_F(ReplacedFile, AFolderOrAPipeLeavesNoRoomForTheProgramsOwn) {
+    fs::create_directory(file);
+    EXPECT_FALSE(makeRoomForFile(file));
+    EXPECT_TRUE(fs::is_directory(file));
+    fs::remove(file);
+    ASSERT_EQ(mkfifo(file.c_str(), 0600), 0);
+    EXPECT_FALSE(makeRoomForFile(file));
+    EXPECT_TRUE(fs::is_fifo(file));
+}
+
 } // namespace
 } // namespace tabrova
