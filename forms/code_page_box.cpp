@@ -47,7 +47,7 @@ QString CodePageBox::accepted(const QString& text, qsizetype room) {
 void CodePageBox::keyPressEvent(QKeyEvent* event) {
     QString typed = event->text();
     if (typed == "\r") typed = "\n";
-    const bool types = !typed.isEmpty() && (typed[0] == '\n' || typed[0].isPrint());
+    const bool types = !typed.isEmpty() && (typed[0] == '\n' || typed[0].isPrint() || typed[0].isSurrogate());
     if (!types || accepted(typed, room()) == typed) return QPlainTextEdit::keyPressEvent(event);
     if (hint && accepted(typed, NoLimit) != typed)
         showPlainHint(mapToGlobal(cursorRect().bottomLeft()), hint(), this);

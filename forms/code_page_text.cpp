@@ -5,13 +5,15 @@
 
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace tabrova {
 
 QString fromCodePage(std::string_view bytes) {
-    QString text;
-    text.reserve(static_cast<qsizetype>(bytes.size()));
-    for (const char c : bytes)
-        text.append(QChar(static_cast<char16_t>(codePointOf(static_cast<unsigned char>(c)))));
+    QString text(static_cast<qsizetype>(bytes.size()), Qt::Uninitialized);
+    std::ranges::transform(bytes, text.begin(), [](char byte) {
+        return QChar(static_cast<char16_t>(codePointOf(static_cast<unsigned char>(byte))));
+    });
     return text;
 }
 

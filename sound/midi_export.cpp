@@ -90,10 +90,15 @@ class Exporter {
         : document_(document), file_(file), noteOffs_(what.noteOffs), jumps_(document) {}
 
     bool addTrack(std::size_t place, int track) {
+        if (static_cast<std::size_t>(track) >= document_.GuitarTrackFlags.size() && !passOver()) return false;
         place_ = static_cast<int>(place);
         track_ = track;
         guitar_ = document_.isGuitarTrack(track + 1);
         channel_ = guitar_ ? channelOf(place) : std::int16_t(PercussionChannel);
+        const auto volume = listNumber(document_.TrackVolumes, track_);
+        loudness_ = volume ? toInteger16(*volume) : std::nullopt;
+        ghostLoudness_ = volume ? toInteger16(*volume / 2.0) : std::nullopt;
+        time_ = toInteger16(MillisecondsOfMinute / document_.Tempo);
         pitches_.fill(0);
         if (guitar_ && !addProgram()) return false;
         return addColumns();
@@ -151,8 +156,7 @@ class Exporter {
         const int row = track_ * StringsPerTrack + string;
         setOffset(string);
         std::optional<std::int16_t> time = 0;
-        if (string == StringsPerTrack - 1 && !jumps_.holdsJump(column))
-            time = toInteger16(MillisecondsOfMinute / document_.Tempo);
+        if (string == StringsPerTrack - 1 && !jumps_.holdsJump(column)) time = time_;
         if (!time && !passOver()) return false;
         file_.setInteger(Property::Status, static_cast<std::int16_t>(NoteOnStatus + channel_));
         const std::string_view cell = document_.note(column, row);
@@ -170,8 +174,7 @@ class Exporter {
     }
 
     bool addNote(std::optional<double> pitch, std::string_view technique, std::int16_t time) {
-        const auto volume = listNumber(document_.TrackVolumes, track_);
-        const auto loudness = volume ? toInteger16(*volume / (technique == "g" ? 2.0 : 1.0)) : std::nullopt;
+        const auto loudness = technique == "g" ? ghostLoudness_ : loudness_;
         if ((!pitch || !loudness) && !passOver()) return false;
         if (pitch) file_.setNumber(Property::Data1, *pitch);
         if (loudness) file_.setInteger(Property::Data2, *loudness);
@@ -229,7 +232,11 @@ class Exporter {
     int track_ = 0;
     bool guitar_ = true;
     std::int16_t channel_ = 0;
-    std::array<std::int16_t, RowsOfTrack> pitches_{};
+    // Of the track's notes, and of its columns in milliseconds; none of what does not convert.
+    std::optional<std::int16_t> loudness_;
+    std::optional<std::int16_t> ghostLoudness_;
+    std::optional<std::int16_t> time_;
+    std::array<std::int16_t, RowsOfTrack> pitches_{}; // that each row sounded last
 };
 
 // So that it is written afresh. Nothing but a file is deleted; what else stands there takes nothing either.

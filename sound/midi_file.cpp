@@ -20,24 +20,27 @@ bool hasOneDataByte(std::uint8_t status) { return (status & 0xE0) == 0xC0; }
 } // namespace
 
 // Seven bits a byte, the highest first; all but the last have the eighth bit set.
-void MidiFileTrack::addTime(std::uint32_t ticks) {
+char* MidiFileTrack::writeTime(char* at, std::uint32_t ticks) {
     ticks = std::min(ticks, MidiFile::MostTicks);
     for (int shift = 21; shift > 0; shift -= 7)
-        if (ticks >> shift != 0) addByte((ticks >> shift & 0x7F) | 0x80);
-    addByte(ticks & 0x7F);
+        if (ticks >> shift != 0) *at++ = static_cast<char>((ticks >> shift & 0x7F) | 0x80);
+    *at++ = static_cast<char>(ticks & 0x7F);
+    return at;
 }
 
 void MidiFileTrack::addMessage(std::uint32_t ticks, std::uint8_t status, std::uint8_t data1,
                                std::uint8_t data2) {
-    addTime(ticks);
-    addByte(status);
-    addByte(data1);
-    if (!hasOneDataByte(status)) addByte(data2);
+    char event[MostBytesOfTime + 3];
+    char* end = writeTime(event, ticks);
+    *end++ = static_cast<char>(status);
+    *end++ = static_cast<char>(data1);
+    if (!hasOneDataByte(status)) *end++ = static_cast<char>(data2);
+    events_.append(event, end);
 }
 
 void MidiFileTrack::addTempo(std::uint32_t ticks, std::uint32_t microsecondsOfQuarter) {
-    addTime(ticks);
-    events_.append("\xFF\x51\x03", 3);
+    char time[MostBytesOfTime];
+    events_.append(time, writeTime(time, ticks)).append("\xFF\x51\x03", 3);
     appendNumber(events_, std::min(microsecondsOfQuarter, MidiFile::LongestQuarter), 3);
 }
 

@@ -21,8 +21,9 @@ class MidiFileTrack {
     void appendTo(std::string& file) const;
 
   private:
-    void addTime(std::uint32_t ticks);
-    void addByte(std::uint32_t byte) { events_.push_back(static_cast<char>(byte)); }
+    static constexpr std::size_t MostBytesOfTime = 4;
+    // Returns the end of what was written.
+    static char* writeTime(char* at, std::uint32_t ticks);
 
     std::string events_;
 };

@@ -15,8 +15,14 @@ constexpr std::uint32_t ColumnsOfQuarter = 4;
 // A quarter of more ticks would be too long for a tempo of the file.
 constexpr std::uint32_t MostTicksOfSlowQuarter = 16000;
 
+constexpr int LargestDataByte = 127;
+
+std::uint8_t dataByte(std::int16_t value) {
+    return static_cast<std::uint8_t>(std::clamp<int>(value, 0, LargestDataByte));
+}
+
 std::uint8_t dataByte(double value) {
-    return static_cast<std::uint8_t>(std::clamp(roundHalfToEven(value), 0.0, 127.0));
+    return static_cast<std::uint8_t>(std::clamp<double>(roundHalfToEven(value), 0, LargestDataByte));
 }
 
 } // namespace
@@ -24,24 +30,28 @@ std::uint8_t dataByte(double value) {
 void MIDIFile::setInteger(Property property, std::int16_t value) {
     switch (property) {
     case Property::Command:
-        return act(value);
+        act(value);
+        break;
     case Property::Track:
         track_ = value;
-        return;
+        break;
     case Property::Status:
         status_ = static_cast<std::uint8_t>(value);
-        return;
+        break;
+    case Property::Data1:
+        data1_ = dataByte(value);
+        break;
     case Property::Data2:
         data2_ = dataByte(value);
-        return;
+        break;
     case Property::DeltaTime:
         deltaTime_ = value;
-        return;
-    case Property::Data1:
+        break;
     case Property::Tempo:
-        return setNumber(property, value);
+        setNumber(property, value);
+        break;
     case Property::FileName:
-        return;
+        break;
     }
 }
 

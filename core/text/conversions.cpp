@@ -100,6 +100,9 @@ double roundHalfToEven(double value) {
 }
 
 std::optional<double> toNumber(std::string_view text) {
+    // Frets and drums, which are most of all numbers.
+    if (text.size() == 1 && isDigit(text[0])) return text[0] - '0';
+    if (text.size() == 2 && isDigit(text[0]) && isDigit(text[1])) return 10 * (text[0] - '0') + text[1] - '0';
     text = withoutBlanks(text);
     if (!isPlainNumber(text)) return std::nullopt;
     if (text.front() == '+') text.remove_prefix(1);

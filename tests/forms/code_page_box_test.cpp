@@ -30,8 +30,9 @@ class CodePageBoxTest : public ::testing::Test {
 
 TEST_F(CodePageBoxTest, TakesTheCharactersOfTheCodePage) {
     EXPECT_EQ(box.objectName(), "txtBox");
-    for (const char* character : {"a", "é", "½", "€", " ", "\r"})
+    for (const char* character : {"a", "é", "½", "€", " "})
         type(QString::fromUtf8(character));
+    QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(box.wholeText(), QString::fromUtf8("aé½€ \n"));
     EXPECT_EQ(hints, 0);
 }

@@ -305,6 +305,7 @@ TEST_F(MidiExportTest, ATrackThatIsNotThereEndsTheExportOrIsSilent) {
     document.TrackInstruments.clear();
     EXPECT_FALSE(exportTracks({0}));
     makeDocument(1);
+    EXPECT_FALSE(exportTracks({1}));
     ASSERT_TRUE(exportTracks({0, 7}));
     EXPECT_EQ(column(5, 2), emptyColumn(9)); // a track without a flag is percussion
 }
