@@ -15,6 +15,16 @@
 
 namespace tabrova {
 
+namespace {
+
+// The file cannot hold every language's letters; the built-in word is better than a row of question marks.
+bool heldByTheCodePage(const std::string& utf8) {
+    const QString text = QString::fromStdString(utf8);
+    return fromCodePage(toCodePage(text)) == text;
+}
+
+} // namespace
+
 void ExportCommands::registerRows(CommandTable& table) {
     table.item("mnuExportText", [this] { mnuExportText(); });
     table.item("mnuFilePrint", [this] { mnuFilePrint(); });
@@ -33,13 +43,13 @@ void ExportCommands::mnuFilePrint() {
 }
 
 QString ExportCommands::instrumentCaption() const {
-    QString caption;
+    QString word;
     const auto file = activeLanguageFile(bench_.services.programFolder);
     for (const LanguageText& each : languageTexts("frmTrackProperties", file))
         if (each.line->use == LineUse::Message && each.line->target == std::string_view("patch"))
-            caption = QString::fromStdString(each.text);
+            word = heldByTheCodePage(each.text) ? QString::fromStdString(each.text) : each.line->text;
     const auto program = trackProgram(bench_.document, bench_.document.CurrentTrack);
-    return program ? caption + bench_.instruments.name(*program) : caption;
+    return program ? word + bench_.instruments.name(*program) : word;
 }
 
 std::string ExportCommands::ExportToFile(const std::filesystem::path& path) const {

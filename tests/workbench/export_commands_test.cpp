@@ -67,13 +67,16 @@ TEST_F(ExportCommandsTest, ThePatchWordIsThatOfTheActiveLanguage) {
     writeInstruments();
     bench.instruments.fill_sound_list(folder());
     document().TrackInstruments = {"0"};
-    {
+    const auto write = [this](const char* word) {
         std::ofstream language(folder() / "lang.trl");
         for (int number = 1; number < 412; ++number)
             language << "\r\n";
-        language << "Klang: \r\n";
-    }
+        language << word << "\r\n";
+    };
+    write("Klang: ");
     EXPECT_EQ(line(7), "Instrument: Klang: Piano");
+    write("Инструмент: "); // which the file cannot hold
+    EXPECT_EQ(line(7), "Instrument: Patch: Piano");
 }
 
 TEST_F(ExportCommandsTest, ShowsTheCurrentTrackAndItsKind) {
