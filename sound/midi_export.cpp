@@ -3,6 +3,7 @@
 #include "core/document/bar_marks.h"
 #include "sound/pitch.h"
 
+#include <algorithm>
 #include <array>
 
 namespace tabrova {
@@ -44,7 +45,8 @@ class JumpColumns {
     enum : char { Unknown, No, Yes };
 
     bool search(int column) const {
-        for (int row = 0; row < document_.TrackCount * StringsPerTrack; ++row)
+        const int rows = std::min(document_.TrackCount * StringsPerTrack, document_.NoteGrid.rows());
+        for (int row = 0; row < rows; ++row)
             if (document_.note(column, row) == ">") return true;
         return false;
     }

@@ -4,11 +4,13 @@
 
 #include "core/document/document_file.h"
 #include "core/document/document_operations.h"
+#include "core/document/text_tablature.h"
 #include "core/document/track_table.h"
 #include "editing/chord_entry.h"
 #include "editing/clipboard.h"
 #include "editing/editor.h"
 #include "editing/key_codes.h"
+#include "sound/midi_export.h"
 #include "sound/playback.h"
 
 #include <climits>
@@ -53,7 +55,7 @@ class EveryCommand {
     }
 
     void step() {
-        switch (choose(0, 10)) {
+        switch (choose(0, 11)) {
         case 0:
         case 1:
             return key();
@@ -72,6 +74,8 @@ class EveryCommand {
             return play();
         case 9:
             return chord();
+        case 10:
+            return exports();
         default:
             return window();
         }
@@ -161,6 +165,23 @@ class EveryCommand {
         document.playback = playbackStart(document, oneIn(2) ? PlayFrom::Start : PlayFrom::Cursor);
         for (int ticks = choose(1, 20); ticks > 0; --ticks)
             if (playTick(document, document.playback, sound) == TickResult::Ended) break;
+    }
+
+    // A grid of very many columns only costs time.
+    void exports() {
+        constexpr int ManyColumns = 10'000;
+        if (document.ColumnCapacity > ManyColumns) return;
+        NoFile nowhere;
+        std::ostream text(&nowhere);
+        textTablature(document, {}).writeTo(text);
+        MIDIFile file(100'000);
+        file.command(MIDIFile::Command::Start);
+        MidiExport what;
+        what.noteOffs = oneIn(2);
+        for (int track = choose(0, 3); track > 0; --track)
+            what.queue.push_back(choose(0, std::max(document.TrackCount + 1, 0)));
+        AddTracksToMidiFile(document, what, file);
+        text << file.bytes();
     }
 
     void window() {

@@ -310,6 +310,18 @@ TEST_F(MidiExportTest, ATrackThatIsNotThereEndsTheExportOrIsSilent) {
     EXPECT_EQ(column(5, 2), emptyColumn(9)); // a track without a flag is percussion
 }
 
+// Only the rows of the document's tracks count, as many as the grid has.
+TEST_F(MidiExportTest, AJumpBelowTheLastTrackIsNone) {
+    makeDocument(2);
+    document.setNote(2, 9, ">");
+    document.TrackCount = 1;
+    ASSERT_TRUE(exportTracks({0}));
+    EXPECT_EQ(column(2), emptyColumn(0));
+    document.TrackCount = 32767; // as a file may say that was read in part
+    ASSERT_TRUE(exportTracks({0}));
+    EXPECT_EQ(column(2), emptyColumn(0, 0));
+}
+
 TEST_F(MidiExportTest, TheOldFileIsWrittenAfresh) {
     ASSERT_TRUE(exportTracks({0}));
     const std::string whole = fileBytes(path);

@@ -56,6 +56,7 @@ TEST_F(ReplacedFile, EndsWhereTheDiskIsFull) {
     {
         const testing::FileSizeLimit limit(30000);
         EXPECT_EQ(replaceFile(file, lines(20000)), Replaced::InPart);
+        EXPECT_EQ(replaceFile(file, std::string(100000, 'y')), Replaced::InPart);
     }
     EXPECT_LE(fs::file_size(file), 30000u);
     EXPECT_EQ(bytesOf(file).find('x'), std::string::npos);

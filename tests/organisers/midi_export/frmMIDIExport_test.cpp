@@ -4,6 +4,7 @@
 #include "organisers/midi_export/frmMIDIExport.h"
 #include "platform/list_box.h"
 #include "sound/midi_export.h"
+#include "tests/core/files/file_size_limit.h"
 #include "tests/sound/midi_file_reader.h"
 #include "tests/workbench/tool_bench.h"
 
@@ -256,6 +257,18 @@ TEST_F(MidiExportWindow, TellsNothingOfAFileThatCannotBeWritten) {
     choose(path("missing/song.mid"));
     click("Command2");
     EXPECT_EQ(box().text, "The MIDI file has been exported successfully.");
+}
+
+TEST_F(MidiExportWindow, TellsNothingOfAFullDisk) {
+    open();
+    click("Command6");
+    choose(path());
+    {
+        const FileSizeLimit full(100);
+        click("Command2");
+    }
+    EXPECT_EQ(box().text, "The MIDI file has been exported successfully.");
+    EXPECT_LE(std::filesystem::file_size(path().toStdString()), 100U);
 }
 
 // The window is away then, and comes back as it was left.

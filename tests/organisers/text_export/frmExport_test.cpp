@@ -2,6 +2,7 @@
 #include "forms/code_page_box.h"
 #include "organisers/text_export/frmExport.h"
 #include "platform/fixed_font.h"
+#include "tests/core/files/file_size_limit.h"
 #include "tests/workbench/tool_bench.h"
 
 #include <QClipboard>
@@ -142,6 +143,18 @@ TEST_F(TextExportWindow, AFailureIsSilentAndTheWindowStays) {
         EXPECT_TRUE(boxes.take().isEmpty()) << place;
         EXPECT_TRUE(form->isVisible()) << place;
     }
+}
+
+TEST_F(TextExportWindow, AFullDiskIsSilentToo) {
+    open();
+    {
+        const FileSizeLimit full(100);
+        save(path());
+    }
+    EXPECT_TRUE(boxes.take().isEmpty());
+    EXPECT_TRUE(form->isVisible());
+    save(path());
+    EXPECT_EQ(boxes.take().size(), 1);
 }
 
 TEST_F(TextExportWindow, PrintsTheBoxAndStays) {
