@@ -46,7 +46,7 @@ QList<QStringList> pagesOf(const QString& text, const PageSize& size) {
         if (!blank && used > 0 && (full || (newBlock && used + blockLength(lines, at) > size.lines)))
             pages.append(QStringList());
         newBlock = blank;
-        if (!blank || (!full && !(pages.size() > 1 && used == 0))) pages.last().append(lines[at]);
+        if (!blank || !full) pages.last().append(lines[at]);
     }
     return pages;
 }

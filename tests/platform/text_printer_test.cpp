@@ -164,6 +164,11 @@ TEST_F(Printing, PrintsTheChosenPagesAlone) {
         chosen.append(word.text);
     }
     EXPECT_EQ(chosen, second);
+    printer.setFromTo(1, 1);
+    QStringList first;
+    for (const Word& word : printed(job(text)))
+        first.append(word.text);
+    EXPECT_EQ(first.last().toInt() + 1, second.first().toInt());
     printer.setFromTo(100, 200); // there are fewer
     EXPECT_EQ(printed(job(text)).last().text, "59");
 }
