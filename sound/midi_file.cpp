@@ -35,7 +35,7 @@ void MidiFileTrack::addMessage(std::uint32_t ticks, std::uint8_t status, std::ui
     *end++ = static_cast<char>(status);
     *end++ = static_cast<char>(data1);
     if (!hasOneDataByte(status)) *end++ = static_cast<char>(data2);
-    events_.append(event, end);
+    events_.append(event, static_cast<std::size_t>(end - event));
 }
 
 void MidiFileTrack::addTempo(std::uint32_t ticks, std::uint32_t microsecondsOfQuarter) {
@@ -51,7 +51,12 @@ void MidiFileTrack::appendTo(std::string& file) const {
 }
 
 std::string MidiFile::bytes() const {
-    std::string file = "MThd";
+    std::size_t size = 0;
+    for (const MidiFileTrack& track : tracks)
+        size += track.size();
+    std::string file;
+    file.reserve(size + 16 * (tracks.size() + 1)); // with the heads and ends
+    file = "MThd";
     appendNumber(file, HeadLength, 4);
     appendNumber(file, FormatOfManyTracks, 2);
     appendNumber(file, static_cast<std::uint32_t>(tracks.size()), 2);
