@@ -3,6 +3,7 @@
 #include "core/text/code_page.h"
 #include "forms/plain_tool_tips.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 
@@ -51,6 +52,15 @@ void CodePageBox::keyPressEvent(QKeyEvent* event) {
     if (!types || accepted(typed, room()) == typed) return QPlainTextEdit::keyPressEvent(event);
     if (hint && accepted(typed, NoLimit) != typed)
         showPlainHint(mapToGlobal(cursorRect().bottomLeft()), hint(), this);
+}
+
+// What is composed of several keys.
+void CodePageBox::inputMethodEvent(QInputMethodEvent* event) {
+    const QString held = accepted(event->commitString(), room());
+    if (hint && accepted(event->commitString(), NoLimit) != event->commitString())
+        showPlainHint(mapToGlobal(cursorRect().bottomLeft()), hint(), this);
+    event->setCommitString(held, event->replacementStart(), event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(event);
 }
 
 void CodePageBox::insertFromMimeData(const QMimeData* source) {

@@ -1,4 +1,5 @@
-// A box for several lines of the code page's characters. Others are refused as they are typed or pasted.
+// A box for several lines of the code page's characters. Others are refused as they are typed, composed or
+// pasted.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -25,6 +26,7 @@ class CodePageBox : public QPlainTextEdit {
     virtual qsizetype room() const;
 
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
 };
 

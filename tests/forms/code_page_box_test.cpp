@@ -46,6 +46,19 @@ TEST_F(CodePageBoxTest, RefusesOthersWithAHint) {
     EXPECT_EQ(hints, 3);
 }
 
+TEST_F(CodePageBoxTest, ComposedCharactersAreRefusedToo) {
+    const auto compose = [this](const char* text) {
+        QInputMethodEvent event;
+        event.setCommitString(QString::fromUtf8(text));
+        QApplication::sendEvent(&box, &event);
+    };
+    compose("é");
+    EXPECT_EQ(hints, 0);
+    compose("a→b");
+    EXPECT_EQ(box.wholeText(), QString::fromUtf8("éab"));
+    EXPECT_EQ(hints, 1);
+}
+
 TEST_F(CodePageBoxTest, PastesWhatAFileCanHold) {
     QApplication::clipboard()->setText(QString::fromUtf8("a→b\r\nc\n"));
     box.paste();
