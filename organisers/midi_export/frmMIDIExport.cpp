@@ -9,6 +9,7 @@
 #include "platform/list_box.h"
 #include "platform/paths.h"
 #include "sound/midi_export.h"
+#include "workbench/proposed_name.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -166,8 +167,10 @@ void frmMIDIExport::showQueue() {
 }
 
 void frmMIDIExport::Command1_Click() {
-    const auto answer =
-        services().files.choose({FileQuestion::Kind::Save, Filter, Extension, CommonDialog1_});
+    const QString name = CommonDialog1_.isEmpty()
+                             ? proposedName(context_.commands.documents.CommonDialog1.fileName, Extension)
+                             : CommonDialog1_;
+    const auto answer = services().files.choose({FileQuestion::Kind::Save, Filter, Extension, name});
     if (!answer) return;
     CommonDialog1_ = *answer;
     Label1_->setText(CommonDialog1_);

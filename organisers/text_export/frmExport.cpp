@@ -8,6 +8,7 @@
 #include "platform/box_title.h"
 #include "platform/fixed_font.h"
 #include "platform/paths.h"
+#include "workbench/proposed_name.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -76,8 +77,10 @@ void frmExport::Form_Load() {
 }
 
 void frmExport::Command1_Click() {
-    const auto answer =
-        services().files.choose({FileQuestion::Kind::Save, Filter, Extension, CommonDialog2_});
+    const QString name = CommonDialog2_.isEmpty()
+                             ? proposedName(context_.commands.documents.CommonDialog1.fileName, Extension)
+                             : CommonDialog2_;
+    const auto answer = services().files.choose({FileQuestion::Kind::Save, Filter, Extension, name});
     if (!answer) return;
     CommonDialog2_ = *answer;
     if (replaceFile(pathOf(CommonDialog2_), savedText(txtfile_->wholeText())) != Replaced::Whole) return;

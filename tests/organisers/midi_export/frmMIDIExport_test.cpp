@@ -102,6 +102,17 @@ TEST_F(MidiExportWindow, ChoosesAFile) {
     EXPECT_EQ(files.take()[0].question.name, path());
 }
 
+TEST_F(MidiExportWindow, ProposesTheDocumentsName) {
+    open();
+    choose(std::nullopt);
+    EXPECT_EQ(files.take()[0].question.name, "");
+    commands.documents.CommonDialog1.fileName = "/music/song.tr3";
+    choose(path());
+    EXPECT_EQ(files.take()[0].question.name, "/music/song.mid");
+    choose(std::nullopt);
+    EXPECT_EQ(files.take()[0].question.name, path());
+}
+
 TEST_F(MidiExportWindow, AddsTracksOneAfterTheOther) {
     open(3);
     click("Command6");
@@ -179,6 +190,7 @@ TEST_F(MidiExportWindow, ListsWorkByDoubleClickAndByKeys) {
     QTest::keyClick(&queue, Qt::Key_Delete);
     EXPECT_EQ(rows("lsttoUse"), QStringList{"1"});
     EXPECT_EQ(closings, 0);
+    EXPECT_TRUE(boxes.take().isEmpty()); // nothing was exported by Return
 }
 
 TEST_F(MidiExportWindow, ThePriorityIsBetweenNothingAndTheNumberOfTracks) {

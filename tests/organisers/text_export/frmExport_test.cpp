@@ -116,6 +116,13 @@ TEST_F(TextExportWindow, SavesWhatStandsInTheBox) {
     EXPECT_TRUE(saved.ends_with("  \r\n"));
 }
 
+TEST_F(TextExportWindow, ProposesTheDocumentsName) {
+    commands.documents.CommonDialog1.fileName = "/music/song.tr3";
+    open();
+    save(std::nullopt);
+    EXPECT_EQ(files.take()[0].question.name, "/music/song.txt");
+}
+
 TEST_F(TextExportWindow, TellsOfTheSavedFileAndGoes) {
     open();
     save(path());
