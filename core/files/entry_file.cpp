@@ -2,6 +2,7 @@
 
 #include "core/files/regular_file.h"
 #include "core/files/replaced_file.h"
+#include "core/text/stored_text.h"
 
 #include <algorithm>
 #include <fstream>
@@ -49,6 +50,15 @@ std::string_view firstItem(std::string_view text) {
 std::optional<std::string> readFirstItem(const fs::path& file) {
     const std::string bytes = readBytes(file, MostBytes);
     return bytes.empty() ? std::nullopt : std::optional(std::string(firstItem(bytes)));
+}
+
+// The whole text tells how it is stored, not the item alone.
+std::optional<std::string> readFirstItemText(const fs::path& file) {
+    const std::string bytes = readBytes(file, MostBytes);
+    if (bytes.empty()) return std::nullopt;
+    const bool cut = bytes.size() == MostBytes;
+    const std::string text = textOfStored(bytes, cut ? LastCharacter::MayBeCut : LastCharacter::Whole);
+    return std::string(firstItem(text));
 }
 
 bool writeEntryFile(const fs::path& file, std::string_view line) {

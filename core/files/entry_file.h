@@ -19,6 +19,8 @@ std::string_view itemAt(std::string_view text);
 // That of the file, of which at most a megabyte is looked at. Nothing if the file is not there, cannot be
 // read, is no regular file or has no bytes.
 std::optional<std::string> readFirstItem(const std::filesystem::path& file);
+// The same in UTF-8, of a file whose text is stored as `core/text/stored_text.h` tells.
+std::optional<std::string> readFirstItemText(const std::filesystem::path& file);
 
 // Makes or replaces the file, which then holds the line and CR LF behind it. A link is replaced and not
 // followed. False if that fails, as it does for a folder, a pipe or a device; a file that could be written

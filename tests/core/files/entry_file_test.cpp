@@ -29,6 +29,24 @@ class EntryFile : public ::testing::Test {
     fs::path entry = folder.path() / "entry";
 };
 
+// The bytes of "Ã©" alone would be an é.
+TEST_F(EntryFile, TheFirstItemsTextIsStoredAsTheWholeFileIs) {
+    const auto text = [this](const std::string& bytes) {
+        std::ofstream(entry, std::ios::binary) << bytes;
+        return readFirstItemText(entry).value_or("nothing");
+    };
+    EXPECT_EQ(text("caf\xE9, then\r\n"), "café");
+    EXPECT_EQ(text("Группа, потом\r\n"), "Группа");
+    EXPECT_EQ(text("\xC3\xA9, \xE9\r\n"), "Ã©");
+    EXPECT_EQ(text("\xC3\xA9, x\r\n"), "é");
+    EXPECT_EQ(text("  \"a, b\" c"), "a, b");
+    EXPECT_EQ(text(""), "nothing");
+    EXPECT_EQ(readFirstItemText(folder.path()), std::nullopt);
+    // A character that the bound of a megabyte cuts does not make it a text of the code page.
+    const std::string most = "é, " + std::string(1024 * 1024 - 5, 'x');
+    EXPECT_EQ(text(most + "é"), "é");
+}
+
 TEST_F(EntryFile, TheFirstItemEndsAtALineEndOrAComma) {
     EXPECT_EQ(item("x32010\r\n"), "x32010");
     EXPECT_EQ(item("x32010"), "x32010");
