@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <QUrl>
 
 #include <utility>
 
@@ -13,6 +14,12 @@ class AddressOpener {
     virtual void open(const QString& address) = 0;
 };
 
+// What the system is given: always one address with a scheme, in encoded form, so that none can be taken for
+// an option of a program. An address that lacks the scheme is one of the web. Invalid for a text that is no
+// address.
+QUrl urlOf(const QString& address);
+
+// Opens nothing for a text that is no address.
 class DesktopAddressOpener : public AddressOpener {
   public:
     void open(const QString& address) override;
