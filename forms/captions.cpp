@@ -33,8 +33,11 @@ QString spoken(const QString& caption) {
 class FormControls {
   public:
     explicit FormControls(QWidget& form) : form_(form) {
-        for (QObject* control : namedControls(form))
-            controls_.insert(control->objectName().toLower(), control);
+        for (QObject* control : namedControls(form)) {
+            const QString name = control->objectName().toLower();
+            controls_.insert(name, control);
+            if (name.endsWith(')')) arrays_[name.left(name.indexOf('('))].append(control);
+        }
     }
 
     void show(const LanguageLine& line, const QString& text, const MessageSink& message) const {
@@ -56,18 +59,29 @@ class FormControls {
 
   private:
     void setCaption(const QString& name, const QString& text) const {
-        QObject* control = controls_.value(name.toLower());
-        if (!control) return setTabCaption(name, text);
+        const QList<QObject*> reached = reachedBy(name.toLower());
+        if (reached.isEmpty()) return setTabCaption(name, text);
+        for (QObject* control : reached)
+            setCaptionOf(control, text);
+    }
+
+    static void setCaptionOf(QObject* control, const QString& text) {
         if (auto* action = qobject_cast<QAction*>(control)) action->setText(text);
         if (auto* button = qobject_cast<QAbstractButton*>(control)) button->setText(text);
         // The caption of a picture is not seen: it is its hint.
-        if (dynamic_cast<PictureButton*>(control)) setToolTip(name, spoken(text));
+        if (auto* picture = dynamic_cast<PictureButton*>(control)) setToolTipOf(*picture, spoken(text));
         if (auto* label = qobject_cast<QLabel*>(control)) {
             label->setTextFormat(Qt::PlainText);
             label->setText(text);
         }
         if (auto* group = qobject_cast<QGroupBox*>(control)) group->setTitle(text);
         if (auto* line = qobject_cast<QLineEdit*>(control)) line->setText(text);
+    }
+
+    // A name without an index stands for all controls of an array.
+    QList<QObject*> reachedBy(const QString& name) const {
+        QObject* control = controls_.value(name);
+        return control ? QList<QObject*>{control} : arrays_.value(name);
     }
 
     // NAME(INDEX) of a set of tabs.
@@ -80,15 +94,19 @@ class FormControls {
     // A button with a key of its own names the key too.
     void setToolTip(const QString& name, const QString& text) const {
         auto* widget = qobject_cast<QWidget*>(controls_.value(name.toLower()));
-        if (!widget) return;
-        const QString key = widget->property("key").toString();
+        if (widget) setToolTipOf(*widget, text);
+    }
+
+    static void setToolTipOf(QWidget& widget, const QString& text) {
+        const QString key = widget.property("key").toString();
         const QString hint = key.isEmpty() ? text : text + " (" + key + ")";
-        widget->setToolTip(hint);
-        if (qobject_cast<QAbstractButton*>(widget)) widget->setAccessibleName(hint);
+        widget.setToolTip(hint);
+        if (qobject_cast<QAbstractButton*>(&widget)) widget.setAccessibleName(hint);
     }
 
     QWidget& form_;
     QHash<QString, QObject*> controls_;
+    QHash<QString, QList<QObject*>> arrays_; // by the name before the index
 };
 
 void showTexts(QWidget& form, const std::filesystem::path& file, const MessageSink& message) {

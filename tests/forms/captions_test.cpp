@@ -126,6 +126,23 @@ TEST_F(Captions, MessagesGoToTheForm) {
     loadLanguage(form, folder()); // nobody listens
 }
 
+TEST_F(Captions, OfANameReachEveryControlOfItsArray) {
+    QDialog form;
+    form.setObjectName("frmBandManager");
+    QList<QPushButton*> buttons;
+    for (int index = 0; index < 6; ++index)
+        buttons.append(named(new QPushButton(&form), QString("sndEmail(%1)").arg(index)));
+    QLabel* single = named(new QLabel(&form), "Label2");
+    QLabel* member = named(new QLabel("untouched", &form), "Label2(1)");
+    QPushButton* option = named(new QPushButton(&form), "mnuOption(1)");
+    loadLanguage(form, folder());
+    for (const QPushButton* button : buttons)
+        EXPECT_EQ(button->text(), "Send E-Mail");
+    EXPECT_EQ(single->text(), "Member Name:");
+    EXPECT_EQ(member->text(), "untouched"); // a control of the very name comes first
+    EXPECT_EQ(option->text(), "Gig Log ");
+}
+
 TEST_F(Captions, AFormsDialogsAreOtherForms) {
     QDialog form;
     form.setObjectName("frmFileProperties");
