@@ -1,6 +1,7 @@
 // The table of the program's windows.
 #include "organisers/about/frmAbout.h"
 #include "organisers/file_properties/frmFileProperties.h"
+#include "organisers/help/frmHelp.h"
 #include "organisers/instruments/frmInstrumentSelector.h"
 #include "organisers/midi_export/frmMIDIExport.h"
 #include "organisers/options/frmOptions.h"
@@ -41,6 +42,7 @@ constexpr ToolRow ToolTable[] = {
     {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
     {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
     {"frmPercussion", "", make<frmPercussion>},
+    {"frmHelp", "mnuHelpContents", make<frmHelp>},
 };
 
 } // namespace

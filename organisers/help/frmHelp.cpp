@@ -1,0 +1,105 @@
+#include "organisers/help/frmHelp.h"
+
+#include "forms/logo.h"
+#include "forms/named.h"
+#include "organisers/help/help_topics.h"
+#include "organisers/help/topic_list.h"
+
+#include <QFrame>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tabrova {
+
+namespace {
+
+constexpr char Title[] = "Tabrova - Help";
+constexpr char NoTopic[] = "(Please select a topic)";
+constexpr char Welcome[] = "Welcome To Tabrova!";
+constexpr char Question[] = "How do I...";
+constexpr char QuestionStart[] = "How do I ";
+constexpr int SheetMargin = 18; // pixels
+constexpr int LeastTextWidth = 440;
+constexpr double HeadingSize = 1.35; // of the window's letters
+
+QStringList questions() {
+    QStringList rows;
+    for (const HelpTopic& topic : helpTopics())
+        rows.append(topic.question);
+    return rows;
+}
+
+// A text that lies on the sheet.
+QLabel* sheetLabel(const QString& name, const QString& text, QWidget* sheet) {
+    auto* label = named(new QLabel(text, sheet), name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setForegroundRole(QPalette::Text);
+    label->setMinimumWidth(LeastTextWidth);
+    return label;
+}
+
+// What the longest of the texts needs at the least width.
+int heightOfLongest(QLabel& label, const QStringList& texts) {
+    const QString shown = label.text();
+    int height = 0;
+    for (const QString& text : texts) {
+        label.setText(text);
+        height = std::max(height, label.heightForWidth(LeastTextWidth));
+    }
+    label.setText(shown);
+    return height;
+}
+
+} // namespace
+
+frmHelp::frmHelp(const ToolContext& context, QWidget* parent) : ToolWindow("frmHelp", context, parent) {
+    setWindowTitle(Title);
+    lstTopics_ = new TopicList("lstTopics", NoTopic, questions(), this);
+    auto* Label1 = labelOf(lstTopics_, "Label1", this);
+    Label1->setText(Question);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(new Logo(this));
+    column->addWidget(Label1);
+    column->addWidget(lstTopics_);
+    column->addSpacing(6);
+    column->addWidget(buildSheet(), 1);
+    lstTopics_->chosen = [this](int row) { showTopic(row); };
+    setFirstFocus(lstTopics_);
+    resize(560, sizeHint().height());
+}
+
+QWidget* frmHelp::buildSheet() {
+    auto* picTracks = named(new QFrame(this), "picTracks");
+    picTracks->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    picTracks->setBackgroundRole(QPalette::Base);
+    picTracks->setAutoFillBackground(true);
+    lblTitle_ = sheetLabel("lblTitle", Welcome, picTracks);
+    QFont heading = lblTitle_->font();
+    heading.setPointSizeF(heading.pointSizeF() * HeadingSize);
+    heading.setBold(true);
+    lblTitle_->setFont(heading);
+    lblHelp_ = sheetLabel("lblHelp(0)", helpWelcome(), picTracks);
+    lblHelp_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QStringList answers = {helpWelcome()};
+    for (const HelpTopic& topic : helpTopics())
+        answers.append(topic.answer);
+    lblHelp_->setMinimumHeight(heightOfLongest(*lblHelp_, answers));
+    lblHelp_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    auto* column = new QVBoxLayout(picTracks);
+    column->setContentsMargins(SheetMargin, SheetMargin, SheetMargin, SheetMargin);
+    column->setSpacing(SheetMargin / 2);
+    column->addWidget(lblTitle_);
+    column->addWidget(lblHelp_, 1);
+    return picTracks;
+}
+
+void frmHelp::showTopic(int row) {
+    const HelpTopic& topic = helpTopics()[static_cast<std::size_t>(row)];
+    lblHelp_->setText(topic.answer);
+    lblTitle_->setText(QString(QuestionStart) + topic.question);
+}
+
+} // namespace tabrova
