@@ -7,6 +7,7 @@
 #include "organisers/options/frmOptions.h"
 #include "organisers/text_export/frmExport.h"
 #include "organisers/track_properties/frmTrackProperties.h"
+#include "organisers/websites/frmWebsites.h"
 #include "organisers/welcome/frmAltSplash.h"
 #include "shell/tool_windows.h"
 #include "tools/chord_manager/frmChordTypeCreator.h"
@@ -42,6 +43,7 @@ constexpr ToolRow ToolTable[] = {
     {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
     {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
     {"frmPercussion", "", make<frmPercussion>},
+    {"frmWebsites", "mnuToolsWebsiteManager", make<frmWebsites>},
     {"frmHelp", "mnuHelpContents", make<frmHelp>},
 };
 
