@@ -1,5 +1,6 @@
 // The table of the program's windows.
 #include "organisers/about/frmAbout.h"
+#include "organisers/band_manager/frmBandManager.h"
 #include "organisers/file_properties/frmFileProperties.h"
 #include "organisers/help/frmHelp.h"
 #include "organisers/instruments/frmInstrumentSelector.h"
@@ -43,6 +44,7 @@ constexpr ToolRow ToolTable[] = {
     {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
     {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
     {"frmPercussion", "", make<frmPercussion>},
+    {"frmBandManager", "mnuBandManager", make<frmBandManager>},
     {"frmWebsites", "mnuToolsWebsiteManager", make<frmWebsites>},
     {"frmHelp", "mnuHelpContents", make<frmHelp>},
 };

@@ -47,7 +47,7 @@ QStringList itemsOf(QObject* control) {
             items.append(box->itemText(row));
     if (auto* tabs = as<QTabWidget>(control))
         for (int tab = 0; tab < tabs->count(); ++tab)
-            items.append(tabs->tabText(tab));
+            items.append(tabTextOf(*tabs, tab));
     return items;
 }
 

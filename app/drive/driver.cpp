@@ -6,6 +6,7 @@
 #include "app/drive/word_splitter.h"
 #include "shell/frmMain.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QJsonArray>
@@ -92,6 +93,13 @@ QJsonObject Driver::type(const QStringList& words) {
 QJsonObject Driver::doItem(const QStringList& words) {
     const FoundControl found = findControl(window_, words.value(1));
     if (!found.object) return error(found.error);
+    // An item may stand on its window as a button.
+    auto* button = qobject_cast<QAbstractButton*>(found.object);
+    if (button && button->objectName().startsWith("mnu")) {
+        if (!button->isEnabled()) return error("disabled");
+        button->click();
+        return Ok;
+    }
     auto* action = qobject_cast<QAction*>(found.object);
     if (!action) return error("not a menu item");
     if (!isActionReachable(action)) return error("disabled");
