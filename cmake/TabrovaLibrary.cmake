@@ -83,7 +83,7 @@ function(tabrova_tools all)
     foreach(tool IN LISTS tools)
         if(IS_DIRECTORY ${CMAKE_SOURCE_DIR}/${all}/${tool})
             tabrova_room(${all}_${tool} FOLDER ${all}/${tool}
-                USES core platform tabview sound editing forms workbench Qt6::Widgets)
+                USES core platform tabview sound richtext editing forms workbench Qt6::Widgets)
             tabrova_qt_headers(${all}_${tool})
             target_link_libraries(${all} INTERFACE ${all}_${tool})
         endif()

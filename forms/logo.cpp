@@ -9,10 +9,20 @@ namespace {
 
 constexpr int LogoHeight = 46;
 constexpr int LetterHeight = 26;
+constexpr int SmallestLetters = 12;
 constexpr int Strings = 6;
 constexpr int FirstString = 8;
 constexpr int StringGap = 6;
 constexpr int LettersLeft = 14;
+
+// The letters' width, which are smaller where there is little room.
+int fitToWidth(QFont& letters, const QString& name, int room) {
+    for (int height = LetterHeight;; --height) {
+        letters.setPixelSize(height);
+        const int width = QFontMetrics(letters).horizontalAdvance(name);
+        if (width <= room || height <= SmallestLetters) return width;
+    }
+}
 
 } // namespace
 
@@ -27,10 +37,9 @@ QSize Logo::sizeHint() const { return {200, LogoHeight}; }
 void Logo::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     QFont letters = font();
-    letters.setPixelSize(LetterHeight);
     letters.setBold(true);
     const QString name = QStringLiteral("Tabrova");
-    const int nameWidth = QFontMetrics(letters).horizontalAdvance(name);
+    const int nameWidth = fitToWidth(letters, name, width() - LettersLeft - 6);
     QColor line = palette().color(QPalette::WindowText);
     line.setAlphaF(0.35F);
     for (int string = 0; string < Strings; ++string) {

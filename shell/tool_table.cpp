@@ -4,6 +4,7 @@
 #include "organisers/file_properties/frmFileProperties.h"
 #include "organisers/help/frmHelp.h"
 #include "organisers/instruments/frmInstrumentSelector.h"
+#include "organisers/lessons/frmLessons.h"
 #include "organisers/midi_export/frmMIDIExport.h"
 #include "organisers/options/frmOptions.h"
 #include "organisers/text_export/frmExport.h"
@@ -43,6 +44,7 @@ constexpr ToolRow ToolTable[] = {
     {"frmTuningManager", "mnuTuningManager", make<frmTuningManager>},
     {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
     {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
+    {"frmLessons", "mnuToolsGuitarLessons", make<frmLessons>},
     {"frmPercussion", "", make<frmPercussion>},
     {"frmBandManager", "mnuBandManager", make<frmBandManager>},
     {"frmWebsites", "mnuToolsWebsiteManager", make<frmWebsites>},

@@ -1,0 +1,25 @@
+// A rich text as a document of the toolkit. Nothing but the text itself is looked at: pictures are decoded
+// from its own bytes, within bounds, and links are only kept.
+#pragma once
+
+#include "richtext/state/rich_text.h"
+
+#include <QTextDocument>
+
+#include <memory>
+
+namespace tabrova {
+
+// A document that loads nothing: whatever it is asked for beside its own pictures is not there.
+class ClosedDocument : public QTextDocument {
+  public:
+    using QTextDocument::QTextDocument;
+
+  protected:
+    QVariant loadResource(int, const QUrl&) override { return {}; }
+};
+
+// Lengths become pixels by these, so many to an inch.
+std::unique_ptr<QTextDocument> richTextDocument(const RichText& text, int pixelsPerInch);
+
+} // namespace tabrova

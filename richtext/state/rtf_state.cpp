@@ -1,0 +1,226 @@
+#include "richtext/state/rtf_state.h"
+
+#include "richtext/state/text_characters.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tabrova {
+
+RtfState::RtfState(RichText& to) : text(to), flow(to), fonts(to), groups_(1) {}
+
+void RtfState::openGroup() {
+    flush();
+    if (groups_.size() >= MostGroups || tooDeep_ > 0) {
+        ++tooDeep_;
+        return;
+    }
+    GroupState inner = groups_.back();
+    inner.isField = false;
+    groups_.push_back(std::move(inner));
+}
+
+bool RtfState::closeGroup() {
+    flush();
+    if (tooDeep_ > 0) {
+        --tooDeep_;
+        return true;
+    }
+    if (groups_.size() <= 2) return false;
+    const GroupState left = std::move(groups_.back());
+    groups_.pop_back();
+    if (left.destination != now().destination) leave(left);
+    return true;
+}
+
+void RtfState::leave(const GroupState& group) {
+    switch (group.destination) {
+    case Destination::Picture:
+        return takePicture();
+    case Destination::Instruction:
+        return takeInstruction();
+    case Destination::Anchor:
+        return flow.addAnchor(std::exchange(anchor_, {}).trimmed());
+    case Destination::Fonts:
+        return endFontTable();
+    default:
+        return;
+    }
+}
+
+void RtfState::endFontTable() {
+    for (GroupState& group : groups_)
+        group.character.font = fonts.indexOf(defaultFont);
+}
+
+void RtfState::addBytes(std::string_view bytes) {
+    switch (now().destination) {
+    case Destination::Body:
+        if (!now().hidden) addBodyBytes(bytes);
+        return;
+    case Destination::Fonts:
+        return fonts.addName(bytes, textCodePage);
+    case Destination::Colors:
+        return endColors(bytes);
+    case Destination::Picture:
+        return picture.addDigits(bytes);
+    case Destination::Instruction:
+    case Destination::Anchor:
+        return bytes_.add(bytes, textCodePage);
+    default:
+        return;
+    }
+}
+
+void RtfState::addBodyBytes(std::string_view bytes) {
+    const int font = now().character.font;
+    const int codePage = fonts.codePageOf(font, textCodePage);
+    if (codePage != SymbolCodePage) return bytes_.add(bytes, codePage);
+    flush();
+    QString signs;
+    for (const char byte : bytes)
+        signs += symbolCharacter(text.fonts[static_cast<std::size_t>(font)].name,
+                                 static_cast<unsigned char>(byte));
+    addCharacters(signs);
+}
+
+void RtfState::flush() {
+    if (!bytes_.isEmpty()) addCharacters(bytes_.take());
+}
+
+void RtfState::addCharacters(const QString& characters) {
+    const auto addTo = [&characters](QString& line) { line = (line + characters).left(LongestInstruction); };
+    switch (now().destination) {
+    case Destination::Body:
+        if (!now().hidden) flow.addText(onlyText(characters), now().character);
+        return;
+    case Destination::Instruction:
+        return addTo(instruction_);
+    case Destination::Anchor:
+        return addTo(anchor_);
+    default:
+        return;
+    }
+}
+
+void RtfState::addUnicode(char16_t unit) {
+    constexpr char16_t FirstPicture = 0xF020, LastPicture = 0xF0FF;
+    if (unit < FirstPicture || unit > LastPicture) return addCharacters(QChar(unit));
+    const int font = now().character.font;
+    const QString name = font < 0 ? QString() : text.fonts[static_cast<std::size_t>(font)].name;
+    addCharacters(symbolCharacter(name, static_cast<unsigned char>(unit & 0xFF)));
+}
+
+int RtfState::nested() const {
+    const GroupState& group = groups_.back();
+    return group.inTable ? std::max(group.nested, 1) : 0;
+}
+
+void RtfState::endParagraph() {
+    const GroupState& group = now();
+    if (group.list > 0 && spelledSign) lists.count(group.list, group.listLevel);
+    if (group.list > 0 && !spelledSign && !flow.isParagraphEmpty()) {
+        const QString sign = lists.nextSign(group.list, group.listLevel);
+        if (!sign.isEmpty()) flow.putFirst(sign + '\t', group.character);
+    }
+    spelledSign = false;
+    flow.endParagraph(group.paragraph, group.character, nested());
+}
+
+void RtfState::endCell() {
+    spelledSign = false;
+    flow.endCell(now().paragraph, now().character, nested());
+}
+
+void RtfState::endRow() { flow.endRow(row, 1); }
+
+void RtfState::endNestedRow() {
+    flow.endRow(row, std::max(now().nested, 2));
+    row = std::exchange(outerRow, {});
+}
+
+void RtfState::finish() {
+    flush();
+    if (!flow.isParagraphEmpty()) endParagraph();
+    flow.finish({}, {}, 0);
+}
+
+void RtfState::plainCharacters() {
+    CharacterLook plain;
+    plain.font = fonts.indexOf(defaultFont);
+    plain.link = now().character.link;
+    now().character = plain;
+    now().hidden = false;
+}
+
+void RtfState::plainParagraph() {
+    now().paragraph = {};
+    now().inTable = false;
+    now().nested = 0;
+    now().list = 0;
+    now().listLevel = 0;
+    nextTab = TabSide::Left;
+    border = nullptr;
+}
+
+std::optional<QRgb> RtfState::color(int number) const {
+    if (number < 0 || static_cast<std::size_t>(number) >= colors_.size()) return std::nullopt;
+    return colors_[static_cast<std::size_t>(number)];
+}
+
+void RtfState::setPart(int part, int value) {
+    parts_[static_cast<std::size_t>(part)] = std::clamp(value, 0, 255);
+    partTold_ = true;
+}
+
+// Each semicolon ends a color; one of which nothing was told is the reader's own.
+void RtfState::endColors(std::string_view bytes) {
+    for (const char byte : bytes) {
+        if (byte != ';' || colors_.size() >= MostColors) continue;
+        colors_.push_back(partTold_ ? std::optional(qRgb(parts_[0], parts_[1], parts_[2])) : std::nullopt);
+        parts_ = {};
+        partTold_ = false;
+    }
+}
+
+void RtfState::addTab(int place) {
+    auto& tabs = now().paragraph.tabs;
+    if (tabs.size() < MostTabs) tabs.push_back({place, std::exchange(nextTab, TabSide::Left)});
+}
+
+void RtfState::beginRow() {
+    row = {};
+    cell = {};
+    border = nullptr;
+}
+
+void RtfState::endCellLook(int end) {
+    border = nullptr;
+    cell.end = end;
+    if (row.cells.size() < RichFlow::MostCells) row.cells.push_back(cell);
+    cell = {};
+}
+
+void RtfState::takePicture() {
+    auto taken = std::exchange(picture, {}).take();
+    if (!taken || now().hidden || text.pictures.size() >= MostPictures) return;
+    pictureBytes_ += taken->bytes.size();
+    if (pictureBytes_ <= MostPictureBytes) flow.addPicture(std::move(*taken), now().character);
+}
+
+void RtfState::takeInstruction() {
+    const QString link = linkOfInstruction(std::exchange(instruction_, {}));
+    if (link.isEmpty() || text.links.size() >= MostLinks) return;
+    text.links.push_back(link);
+    const auto field =
+        std::find_if(groups_.rbegin(), groups_.rend(), [](const auto& group) { return group.isField; });
+    if (field != groups_.rend()) field->fieldLink = static_cast<int>(text.links.size()) - 1;
+}
+
+void RtfState::beginFieldResult() {
+    const auto field =
+        std::find_if(groups_.rbegin(), groups_.rend(), [](const auto& group) { return group.isField; });
+    if (field != groups_.rend() && field->fieldLink >= 0) now().character.link = field->fieldLink;
+}
+
+} // namespace tabrova

@@ -1,0 +1,50 @@
+// The words that stand for characters and for the ends of lines and paragraphs.
+#include "richtext/state/rtf_words.h"
+
+namespace tabrova {
+
+namespace {
+
+using State = RtfState;
+using Number = RtfNumber;
+
+template <char16_t Character>
+void character(State& state, Number) {
+    state.addCharacters(QChar(Character));
+}
+
+void paragraph(State& state, Number) { state.endParagraph(); }
+
+// A page shows as one long page: its end is no more than the paragraph's.
+void page(State& state, Number) {
+    if (!state.flow.isParagraphEmpty()) state.endParagraph();
+}
+
+constexpr RtfWordRow Words[] = {
+    {"par", WordUse::Text, paragraph},
+    {"sect", WordUse::Text, page},
+    {"page", WordUse::Text, page},
+    {"column", WordUse::Text, page},
+    {"line", WordUse::Text, character<u'\u2028'>},
+    {"tab", WordUse::Text, character<u'\t'>},
+    {"emdash", WordUse::Look, character<u'\u2014'>},
+    {"endash", WordUse::Look, character<u'\u2013'>},
+    {"emspace", WordUse::Look, character<u'\u2003'>},
+    {"enspace", WordUse::Look, character<u'\u2002'>},
+    {"qmspace", WordUse::Look, character<u'\u2005'>},
+    {"bullet", WordUse::Look, character<u'\u2022'>},
+    {"lquote", WordUse::Look, character<u'\u2018'>},
+    {"rquote", WordUse::Look, character<u'\u2019'>},
+    {"ldblquote", WordUse::Look, character<u'\u201C'>},
+    {"rdblquote", WordUse::Look, character<u'\u201D'>},
+    {"zwj", WordUse::Look, character<u'\u200D'>},
+    {"zwnj", WordUse::Look, character<u'\u200C'>},
+    {"ltrmark", WordUse::Look, character<u'\u200E'>},
+    {"rtlmark", WordUse::Look, character<u'\u200F'>},
+};
+
+} // namespace
+
+std::span<const RtfWordRow> textWords() { return Words; }
+
+} // namespace tabrova
