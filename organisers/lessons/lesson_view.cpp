@@ -46,7 +46,7 @@ bool LessonView::load(const std::filesystem::path& file) {
     const auto bytes = readBytes(file);
     if (!bytes) return false;
     const RichText text = isRichText(*bytes) ? readRichText(*bytes) : readPlainText(*bytes);
-    show(richTextDocument(text, logicalDpiX()));
+    show(richTextDocument(text, {logicalDpiX(), devicePixelRatioF()}));
     return true;
 }
 

@@ -5,7 +5,7 @@
 #include "richtext/state/rich_text.h"
 
 #include <QImage>
-#include <QSizeF>
+#include <QSize>
 
 namespace tabrova {
 
@@ -14,15 +14,16 @@ class RichPictures {
     static constexpr qint64 MostPixels = 24'000'000;         // of one
     static constexpr qint64 MostPixelsTogether = 80'000'000; // as they are kept
 
-    // As many pixels as it takes to show it sharply at that size, at the most. Null if the bytes are no
-    // picture of their kind or a bound is passed.
-    QImage decode(const RichPicture& picture, QSizeF shown);
+    // With the very pixels that it shows as, so many to a pixel of the page: a document would leave out lines
+    // of a larger picture. Null if the bytes are no picture of their kind or a bound is passed.
+    QImage decode(const RichPicture& picture, QSize shown, qreal pixelRatio);
 
   private:
     qint64 kept_ = 0;
 };
 
-// How large it shows, in pixels: as its author told, or by its own. Empty if the bytes are no picture.
-QSizeF shownSize(const RichPicture& picture, int pixelsPerInch);
+// How large it shows, in pixels of the page: as its author told, or by its own. Empty if the bytes are no
+// picture.
+QSize shownSize(const RichPicture& picture, int pixelsPerInch);
 
 } // namespace tabrova

@@ -31,8 +31,9 @@ QTextCharFormat::VerticalAlignment cellAlignment(CellPlace place) {
 
 class Builder {
   public:
-    Builder(const RichText& text, QTextDocument& document, int pixelsPerInch)
-        : scale_{text, pixelsPerInch}, document_(document), cursor_(&document) {}
+    Builder(const RichText& text, QTextDocument& document, const RichPage& page)
+        : scale_{text, page.pixelsPerInch}, pixelRatio_(page.pixelRatio), document_(document),
+          cursor_(&document) {}
 
     void build() {
         cursor_.beginEditBlock();
@@ -45,14 +46,16 @@ class Builder {
     void addBlocks(const std::vector<RichBlock>& blocks);
     void addParagraph(const RichParagraph& paragraph);
     void addPicture(const RichRun& run);
-    QString nameOf(int picture, QSizeF shown);
-    void addTable(const RichTable& table);
+    QString nameOf(int picture, QSize shown);
+    // The space between the paragraph before and the table is the table's to keep.
+    void addTable(const RichTable& table, int above);
     QTextTableFormat tableFormat(const RichTable& table, const TableGrid& grid) const;
     QTextTableCellFormat cellFormat(const CellLook& look, const RowLook& row) const;
     void setBorders(QTextTableCellFormat& format, const CellLook& look) const;
     void makeBlockFlat();
 
     RichScale scale_;
+    qreal pixelRatio_;
     QTextDocument& document_;
     QTextCursor cursor_;
     RichPictures pictures_;
@@ -60,14 +63,17 @@ class Builder {
 
 void Builder::addBlocks(const std::vector<RichBlock>& blocks) {
     bool free = true; // the cursor's block
+    int below = 0;    // the last paragraph, twips
     for (const RichBlock& block : blocks) {
         if (const auto* paragraph = std::get_if<RichParagraph>(&block)) {
             if (!free) cursor_.insertBlock(QTextBlockFormat(), QTextCharFormat());
             addParagraph(*paragraph);
+            below = paragraph->look.below;
             free = false;
         } else {
             if (free) makeBlockFlat();
-            addTable(*std::get<std::unique_ptr<RichTable>>(block));
+            addTable(*std::get<std::unique_ptr<RichTable>>(block), below);
+            below = 0;
             free = true;
         }
     }
@@ -100,7 +106,7 @@ void Builder::addParagraph(const RichParagraph& paragraph) {
 }
 
 void Builder::addPicture(const RichRun& run) {
-    const QSizeF shown =
+    const QSize shown =
         shownSize(scale_.text.pictures[static_cast<std::size_t>(run.picture)], scale_.pixelsPerInch);
     const QString name = shown.isEmpty() ? QString() : nameOf(run.picture, shown);
     if (name.isEmpty()) return;
@@ -113,8 +119,9 @@ void Builder::addPicture(const RichRun& run) {
 }
 
 // Under which the document keeps the picture; empty if it cannot be shown.
-QString Builder::nameOf(int picture, QSizeF shown) {
-    const QImage image = pictures_.decode(scale_.text.pictures[static_cast<std::size_t>(picture)], shown);
+QString Builder::nameOf(int picture, QSize shown) {
+    const QImage image =
+        pictures_.decode(scale_.text.pictures[static_cast<std::size_t>(picture)], shown, pixelRatio_);
     if (image.isNull()) return {};
     const QString name = "picture:" + QString::number(picture);
     document_.addResource(QTextDocument::ImageResource, QUrl(name), image);
@@ -180,10 +187,11 @@ void Builder::setBorders(QTextTableCellFormat& format, const CellLook& look) con
     }
 }
 
-void Builder::addTable(const RichTable& rich) {
+void Builder::addTable(const RichTable& rich, int above) {
     const TableGrid grid = tableGrid(rich, MostColumns);
-    QTextTable* table =
-        cursor_.insertTable(static_cast<int>(rich.rows.size()), grid.columns(), tableFormat(rich, grid));
+    QTextTableFormat look = tableFormat(rich, grid);
+    look.setTopMargin(scale_.pixels(above));
+    QTextTable* table = cursor_.insertTable(static_cast<int>(rich.rows.size()), grid.columns(), look);
     for (const PlacedCell& cell : grid.cells) {
         if (cell.rows > 1 || cell.columns > 1)
             table->mergeCells(cell.row, cell.column, cell.rows, cell.columns);
@@ -202,10 +210,10 @@ void Builder::addTable(const RichTable& rich) {
 
 } // namespace
 
-std::unique_ptr<QTextDocument> richTextDocument(const RichText& text, int pixelsPerInch) {
+std::unique_ptr<QTextDocument> richTextDocument(const RichText& text, const RichPage& page) {
     auto document = std::make_unique<ClosedDocument>();
     document->setUndoRedoEnabled(false);
-    Builder(text, *document, pixelsPerInch).build();
+    Builder(text, *document, page).build();
     return document;
 }
 

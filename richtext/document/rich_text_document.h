@@ -19,7 +19,12 @@ class ClosedDocument : public QTextDocument {
     QVariant loadResource(int, const QUrl&) override { return {}; }
 };
 
-// Lengths become pixels by these, so many to an inch.
-std::unique_ptr<QTextDocument> richTextDocument(const RichText& text, int pixelsPerInch);
+// The page that it is shown on.
+struct RichPage {
+    int pixelsPerInch;
+    qreal pixelRatio = 1; // of the screen's pixels to the page's
+};
+
+std::unique_ptr<QTextDocument> richTextDocument(const RichText& text, const RichPage& page);
 
 } // namespace tabrova
