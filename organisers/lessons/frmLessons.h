@@ -6,6 +6,7 @@
 #include "workbench/tool_window.h"
 
 class QGroupBox;
+class QLabel;
 class QPushButton;
 
 namespace tabrova {

@@ -5,6 +5,7 @@
 #include "richtext/document/rich_text_document.h"
 #include "richtext/state/rtf_reader.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QScrollBar>
 #include <QUrl>
 
@@ -55,10 +56,15 @@ void LessonView::show(std::unique_ptr<QTextDocument> lesson) {
     lesson->setDocumentMargin(PageMargin);
     setDocument(lesson.get());
     lesson_ = std::move(lesson);
+    layOutWhole();
     moveCursor(QTextCursor::Start);
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
 }
+
+// The toolkit lays a long page out piece by piece and would show the bars of the first pieces until it is
+// idle.
+void LessonView::layOutWhole() { emit document()->documentLayout()->documentSizeChanged(document()->size()); }
 
 void LessonView::follow(const QUrl& link) {
     if (link.scheme().isEmpty() && link.path().isEmpty() && link.hasFragment()) {

@@ -29,6 +29,7 @@ class LessonView : public QTextBrowser {
 
   private:
     void follow(const QUrl& link);
+    void layOutWhole();
     void show(std::unique_ptr<QTextDocument> lesson);
 
     std::unique_ptr<QTextDocument> lesson_;

@@ -12,7 +12,7 @@ namespace tabrova {
 namespace {
 
 QString decoded(std::string_view bytes) {
-    QStringDecoder utf8(QStringConverter::Utf8);
+    QStringDecoder utf8(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString text = utf8.decode(QByteArrayView(bytes));
     return utf8.hasError() ? QString::fromStdString(utf8FromCodePage(bytes)) : text;
 }
