@@ -69,6 +69,7 @@ void frmWebsites::addEntries(QGridLayout& grid) {
     SiteLoader_->setReadOnly(true);
     lblDesc_ = named(new QLabel(this), "lblDesc");
     auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(Gap / 2);
     buttons->addWidget(Command2_);
     buttons->addWidget(Command3_);
     buttons->addStretch(1);

@@ -118,6 +118,13 @@ TEST_F(WebsiteWindow, TheTabKeyFollowsTheReadingOrder) {
     }
 }
 
+TEST_F(WebsiteWindow, TheButtonsOfTheListDoNotTouch) {
+    open();
+    EXPECT_GE(control("Command3").y(), control("Command2").geometry().bottom() + 4);
+    EXPECT_EQ(control("Command3").geometry().right(), control("Command1").geometry().right());
+    EXPECT_EQ(control("SiteLoader").x(), control("siteURL").x());
+}
+
 TEST_F(WebsiteWindow, SavesTheAddressAndTheDescriptionAsTwoLines) {
     open();
     save("Lessons", "https://lessons.example/a?b=c", "free, and good");
