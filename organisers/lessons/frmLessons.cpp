@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tabrova {
 
 namespace {
@@ -27,6 +29,22 @@ constexpr QSize FirstSize = {900, 620};
 constexpr QSize SelectorSize = {340, 300};
 constexpr int ColumnGap = 6;
 constexpr qreal TitleSize = 1.2;
+constexpr qreal SmallestTitle = 0.7;
+
+// Bold, and as large as its longest word allows.
+QFont titleFont(const QFont& plain, const QString& title, int width) {
+    QFont font = plain;
+    font.setBold(true);
+    for (qreal size = TitleSize; size >= SmallestTitle; size -= 0.1) {
+        font.setPointSizeF(plain.pointSizeF() * size);
+        const QFontMetrics metrics(font);
+        const QStringList words = title.split(' ');
+        if (std::all_of(words.begin(), words.end(),
+                        [&](const QString& word) { return metrics.horizontalAdvance(word) <= width; }))
+            break;
+    }
+    return font;
+}
 
 } // namespace
 
@@ -37,10 +55,6 @@ frmLessons::frmLessons(const ToolContext& context, QWidget* parent)
     logo_ = new Logo(this);
     Label8_ = labelOf(txtLesson_, "Label8", this);
     Label8_->setWordWrap(true);
-    QFont title = Label8_->font();
-    title.setBold(true);
-    title.setPointSizeF(title.pointSizeF() * TitleSize);
-    Label8_->setFont(title);
     Label8_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     StatusBar1_ = new LessonStatusBar("StatusBar1", this);
     buildSelector();
@@ -88,6 +102,7 @@ void frmLessons::placeParts() {
     const int width = LessonColumnWidth - 2 * ColumnGap;
     const int left = places_.columnLeft + ColumnGap;
     logo_->setGeometry(left, ColumnGap, width, logo_->sizeHint().height());
+    Label8_->setFont(titleFont(font(), Label8_->text(), width));
     Label8_->setGeometry(left, logo_->geometry().bottom() + ColumnGap, width, Label8_->heightForWidth(width));
     if (!Picture1_->isHidden()) placeSelector();
 }

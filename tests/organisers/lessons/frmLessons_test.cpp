@@ -333,6 +333,19 @@ TEST_F(LessonWindow, LaysItselfOutAtEachSize) {
     EXPECT_EQ(at("Label8").geometry().left(), 1000 - 118 + 6);
 }
 
+TEST_F(LessonWindow, TheTitleFitsBesideTheLessonWhateverItsLanguage) {
+    std::string lines(239, '\n');
+    for (const char* title : {"Guitar Lessons", "Gitarrenlektionen", "Lezioni per la chitarra"}) {
+        write(folder() / "lang.trl", lines + "Lessons\n" + title + "\n");
+        open();
+        const auto& label = at<QLabel>("Label8");
+        EXPECT_EQ(label.text(), title);
+        for (const QString& word : label.text().split(' '))
+            EXPECT_LE(label.fontMetrics().horizontalAdvance(word), label.width()) << title;
+        EXPECT_TRUE(label.font().bold());
+    }
+}
+
 TEST_F(LessonWindow, OpensLinksToTheWebAndToMailAlone) {
     lesson("one.rtf", "{\\field{\\*\\fldinst HYPERLINK \"https://example.org/a?b=c\"}{\\fldrslt web}}");
     open();
