@@ -77,9 +77,11 @@ void Reader::takeText(std::string_view text) {
 
 void Reader::takeWord(const RtfToken& token) {
     const bool starred = std::exchange(starred_, false);
-    if (isLeftOut() || token.text == "bin") return;
+    if (token.text == "bin") return;
     if (token.text == "u") return takeUnicode(token.number.value_or(0));
     const RtfWordRow* row = findRtfWord(token.text);
+    if (row && row->use == WordUse::Character && isLeftOut()) return;
+    if (row && row->use == WordUse::Text) leftOut_ = 0;
     const bool opens = row && (row->use == WordUse::Opens || row->use == WordUse::Part);
     if (starred && !opens) {
         state_.now().destination = Destination::Skipped;

@@ -132,9 +132,18 @@ void RtfState::endCell() {
     flow.endCell(now().paragraph, now().character, nested());
 }
 
-void RtfState::endRow() { flow.endRow(row, 1); }
+void RtfState::endRow() {
+    endRowsText();
+    flow.endRow(row, 1);
+}
+
+// What stands behind the last cell's end is a cell of its own.
+void RtfState::endRowsText() {
+    if (now().inTable && !flow.isParagraphEmpty()) endParagraph();
+}
 
 void RtfState::endNestedRow() {
+    endRowsText();
     flow.endRow(row, std::max(now().nested, 2));
     row = std::exchange(outerRow, {});
 }

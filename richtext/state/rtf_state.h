@@ -97,6 +97,7 @@ class RtfState {
 
   private:
     int nested() const;
+    void endRowsText();
     void leave(const GroupState& group);
     void takePicture();
     void takeInstruction();

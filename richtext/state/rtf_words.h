@@ -20,10 +20,11 @@ struct RtfNumber {
 };
 
 enum class WordUse {
-    Look,  // wherever it stands
-    Text,  // in the body alone
-    Opens, // says what its group holds
-    Part,  // the same, and inside of a silent group too
+    Look,      // wherever it stands
+    Character, // the same, and it is one itself
+    Text,      // in the body alone
+    Opens,     // says what its group holds
+    Part,      // the same, and inside of a silent group too
 };
 
 struct RtfWordRow {
