@@ -96,6 +96,11 @@ QStringDecoder* CodePageText::decoder(int codePage) {
     return found->second.isValid() ? &found->second : nullptr;
 }
 
+bool isPictureFont(const QString& font) {
+    const QString name = font.toLower();
+    return name == "symbol" || name.contains("wingding") || name.contains("webding");
+}
+
 QChar symbolCharacter(const QString& font, unsigned char place) {
     constexpr char16_t Bullet = u'\u2022';
     const QString name = font.toLower();

@@ -33,6 +33,9 @@ class CodePageText {
     std::map<int, QStringDecoder> decoders_;
 };
 
+// Whether the bytes of a font of this name are places of pictures, whatever its character set.
+bool isPictureFont(const QString& font);
+
 // The character that a font of pictures shows for its place from 0x20 to 0xFF; U+2022, a bullet, for those of
 // which there is no character, and the place itself where other fonts have the same.
 QChar symbolCharacter(const QString& font, unsigned char place);

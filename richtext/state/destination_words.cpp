@@ -21,9 +21,17 @@ void picture(State& state, Number) {
 void field(State& state, Number) {
     state.now().isField = true;
     state.now().fieldLink = -1;
+    state.now().fieldSymbol.clear();
+}
+
+// A field inside of another one's instruction gives its result to it.
+void instruction(State& state, Number) {
+    const bool isInside = state.now().destination == Destination::Instruction;
+    state.now().destination = isInside ? Destination::Skipped : Destination::Instruction;
 }
 
 void fieldResult(State& state, Number) {
+    if (state.now().destination == Destination::Instruction) return;
     state.now().destination = Destination::Body;
     state.beginFieldResult();
 }
@@ -43,7 +51,7 @@ constexpr RtfWordRow Words[] = {
     {"pict", WordUse::Part, picture},
     {"shppict", WordUse::Part, nothing},
     {"field", WordUse::Opens, field},
-    {"fldinst", WordUse::Opens, opens<Destination::Instruction>},
+    {"fldinst", WordUse::Opens, instruction},
     {"fldrslt", WordUse::Opens, fieldResult},
     {"bkmkstart", WordUse::Opens, opens<Destination::Anchor>},
     {"listtext", WordUse::Opens, listText},

@@ -1,4 +1,4 @@
-// The links that fields of a rich text are.
+// The links and the single characters that fields of a rich text are.
 #include "richtext/state/rtf_state.h"
 
 #include <utility>
@@ -38,6 +38,28 @@ QString linkOfInstruction(const QString& instruction) {
     }
     const QString link = place.isEmpty() ? address : address + '#' + place;
     return link.size() > LongestLink ? QString() : link;
+}
+
+QString symbolOfInstruction(const QString& instruction, int textCodePage) {
+    QStringView rest = instruction;
+    if (takeWord(rest).compare("SYMBOL", Qt::CaseInsensitive) != 0) return {};
+    bool isNumber = false;
+    const uint number = takeWord(rest).toUInt(&isNumber, 0);
+    if (!isNumber || number < 0x20 || number > 0xFFFF) return {};
+    QString font;
+    bool isUnicode = number > 0xFF;
+    while (!(rest = rest.trimmed()).isEmpty()) {
+        const QString word = takeWord(rest);
+        if (word == "\\f") font = takeWord(rest);
+        if (word == "\\u") isUnicode = true;
+    }
+    if (isUnicode) return QChar(static_cast<char16_t>(number));
+    const auto byte = static_cast<unsigned char>(number);
+    if (isPictureFont(font)) return symbolCharacter(font, byte);
+    const char place = static_cast<char>(byte);
+    CodePageText text;
+    text.add({&place, 1}, textCodePage);
+    return text.take();
 }
 
 } // namespace tabrova

@@ -36,6 +36,10 @@ void levelNumbers(State& state, Number number) {
     if (state.now().destination == Destination::Lists) state.lists.setLevelNumbers(number.value());
 }
 
+void levelStart(State& state, Number number) {
+    if (state.now().destination == Destination::Lists) state.lists.setLevelStart(number.told.value_or(1));
+}
+
 void listId(State& state, Number number) {
     if (state.now().destination == Destination::Lists) state.lists.setListId(number.value());
     if (state.now().destination == Destination::ListNumbers) state.lists.setOverrideList(number.value());
@@ -71,6 +75,7 @@ constexpr RtfWordRow Words[] = {
     {"blue", WordUse::Look, colorPart<2>},
     {"list", WordUse::Look, list},
     {"levelnfc", WordUse::Look, levelNumbers},
+    {"levelstartat", WordUse::Look, levelStart},
     {"listid", WordUse::Look, listId},
     {"pngblip", WordUse::Look, pictureKind<PictureKind::Png>},
     {"jpegblip", WordUse::Look, pictureKind<PictureKind::Jpeg>},

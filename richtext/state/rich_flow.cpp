@@ -28,14 +28,15 @@ bool RichFlow::isFull() const {
 
 void RichFlow::addText(const QString& text, const CharacterLook& look) {
     if (text.isEmpty() || isFull()) return;
-    characters_ += static_cast<std::size_t>(text.size());
+    const QStringView taken = QStringView(text).left(static_cast<qsizetype>(MostCharacters - characters_));
+    characters_ += static_cast<std::size_t>(taken.size());
     auto& runs = paragraph_.runs;
     if (!runs.empty() && runs.back().picture < 0 && runs.back().look == look) {
-        runs.back().text += text;
+        runs.back().text += taken;
         return;
     }
     ++runCount_;
-    runs.push_back({text, look});
+    runs.push_back({taken.toString(), look});
 }
 
 void RichFlow::addPicture(RichPicture picture, const CharacterLook& look) {
@@ -46,13 +47,15 @@ void RichFlow::addPicture(RichPicture picture, const CharacterLook& look) {
 }
 
 void RichFlow::addAnchor(const QString& name) {
-    if (isFull()) return;
+    if (name.isEmpty() || isFull()) return;
     ++runCount_;
     paragraph_.anchors.push_back(name);
 }
 
 void RichFlow::putFirst(const QString& text, const CharacterLook& look) {
+    if (isFull()) return;
     ++runCount_;
+    characters_ += static_cast<std::size_t>(text.size());
     paragraph_.runs.insert(paragraph_.runs.begin(), {text, look});
 }
 
@@ -76,7 +79,7 @@ void RichFlow::endRow(const RowLook& look, int nested) {
 }
 
 void RichFlow::finish(const ParagraphLook& look, const CharacterLook& endLook, int nested) {
-    if (!paragraph_.runs.empty()) endParagraph(look, endLook, nested);
+    if (!isParagraphEmpty()) endParagraph(look, endLook, nested);
     nestTo(0);
 }
 
@@ -97,7 +100,6 @@ void RichFlow::closeTable() {
 void RichFlow::closeCell() {
     OpenTable& last = open_.back();
     auto& cells = last.row.cells;
-    ++blockCount_;
     if (cells.size() < MostCells)
         cells.push_back(std::move(last.cell));
     else
@@ -112,6 +114,7 @@ void RichFlow::closeRow(const RowLook& look) {
     open_.back().row = {};
     if (row.cells.empty()) return;
     row.look = look;
+    blockCount_ += std::max(look.cells.size(), row.cells.size());
     levelRow(row);
     open_.back().table.rows.push_back(std::move(row));
 }

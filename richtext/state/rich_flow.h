@@ -30,7 +30,8 @@ class RichFlow {
     // Ends what is still open.
     void finish(const ParagraphLook& look, const CharacterLook& endLook, int nested);
 
-    bool isParagraphEmpty() const { return paragraph_.runs.empty(); }
+    bool isParagraphEmpty() const { return paragraph_.runs.empty() && paragraph_.anchors.empty(); }
+    std::size_t characters() const { return characters_; }
     // Nothing more is to be added.
     bool isFull() const;
 

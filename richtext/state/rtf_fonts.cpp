@@ -1,8 +1,12 @@
 #include "richtext/state/rtf_fonts.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace tabrova {
 
 void RtfFonts::begin(int number) {
+    end();
     if (rows_.size() >= MostFonts) return;
     indexes_[number] = static_cast<int>(rows_.size());
     rows_.push_back({});
@@ -21,14 +25,29 @@ void RtfFonts::setCodePage(int codePage) {
     if (!rows_.empty()) rows_.back().codePage = codePage;
 }
 
+// A character of several bytes may come in pieces.
 void RtfFonts::addName(std::string_view bytes, int textCodePage) {
-    if (rows_.empty() || rows_.back().named) return;
-    QString& name = text_.fonts.back().name;
+    if (!takesName()) return;
     const std::size_t end = bytes.find(';');
-    if (end != std::string_view::npos) rows_.back().named = true;
     const int own = codePageOf(static_cast<int>(rows_.size()) - 1, textCodePage);
+    nameCodePage_ = own == SymbolCodePage ? textCodePage : own;
+    name_ += bytes.substr(0, std::min(end, MostNameBytes - name_.size()));
+    if (end == std::string_view::npos) return;
+    RtfFonts::end();
+    rows_.back().named = true;
+}
+
+void RtfFonts::addName(const QString& characters) {
+    if (!takesName()) return;
+    end();
+    text_.fonts.back().name += characters.left(LongestName - text_.fonts.back().name.size());
+}
+
+void RtfFonts::end() {
+    if (name_.empty()) return;
     CodePageText text;
-    text.add(bytes.substr(0, end), own == SymbolCodePage ? textCodePage : own);
+    text.add(std::exchange(name_, {}), nameCodePage_);
+    QString& name = text_.fonts.back().name;
     name = (name + text.take()).left(LongestName);
 }
 

@@ -21,6 +21,8 @@ class RtfFonts {
     void setCodePage(int codePage);
     // Bytes of its name, up to a semicolon.
     void addName(std::string_view bytes, int textCodePage);
+    void addName(const QString& characters);
+    void end();
 
     // In the text. -1 for a font that the table lacks.
     int indexOf(int number) const;
@@ -33,9 +35,14 @@ class RtfFonts {
         bool named = false;
     };
     static constexpr qsizetype LongestName = 100;
+    static constexpr std::size_t MostNameBytes = 400;
+
+    bool takesName() const { return !rows_.empty() && !rows_.back().named; }
 
     RichText& text_; // its fonts, by index
     std::vector<Row> rows_;
+    std::string name_; // bytes of the last row's, of which characters are still to be made
+    int nameCodePage_ = WesternCodePage;
     std::unordered_map<int, int> indexes_;
 };
 

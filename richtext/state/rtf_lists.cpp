@@ -7,6 +7,8 @@ namespace tabrova {
 
 namespace {
 
+constexpr int MostCounted = 3000;
+
 enum NumberKind { Decimal = 0, RomanCapitals, RomanSmall, LetterCapitals, LetterSmall, None = 255 };
 
 constexpr std::pair<int, const char*> RomanSigns[] = {
@@ -24,11 +26,11 @@ QString roman(int number) {
 // "a" to "z", then "aa" to "zz", as lists go on.
 QString letters(int number) {
     constexpr int Letters = 26;
+    number = std::max(number, 1);
     return QString((number - 1) / Letters + 1, QChar('a' + (number - 1) % Letters));
 }
 
 QString sign(int kind, int number) {
-    constexpr int MostCounted = 3000;
     number = std::min(number, MostCounted);
     switch (kind) {
     case Decimal:
@@ -58,6 +60,11 @@ void RtfLists::setLevelNumbers(int kind) {
     if (!lists_.empty() && lists_.back().kinds.size() < Levels) lists_.back().kinds.push_back(kind);
 }
 
+void RtfLists::setLevelStart(int number) {
+    if (lists_.empty() || lists_.back().kinds.empty()) return;
+    lists_.back().starts[lists_.back().kinds.size() - 1] = std::clamp(number, 0, MostCounted);
+}
+
 void RtfLists::setListId(int id) {
     if (!lists_.empty()) byId_[id] = lists_.size() - 1;
 }
@@ -84,7 +91,7 @@ QString RtfLists::nextSign(int number, int level) {
     const List* at = list(number);
     const auto place = static_cast<std::size_t>(level);
     if (!at || level < 0 || place >= at->kinds.size()) return sign(-1, 0);
-    return sign(at->kinds[place], at->counts[place]);
+    return sign(at->kinds[place], at->starts[place] + at->counts[place] - 1);
 }
 
 } // namespace tabrova

@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <array>
 #include <map>
 #include <vector>
 
@@ -17,6 +18,7 @@ class RtfLists {
     void beginList();
     void
     setLevelNumbers(int kind); // of its next level: 23 are bullets, 0 numbers, 1 to 4 roman ones and letters
+    void setLevelStart(int number); // of the same level
     void setListId(int id);
     // In the table that gives the lists the numbers by which paragraphs name them.
     void setOverrideList(int id) { overrideList_ = id; }
@@ -29,9 +31,15 @@ class RtfLists {
     void count(int number, int level);
 
   private:
+    static constexpr std::array<int, Levels> startsAtOne() {
+        std::array<int, Levels> starts = {};
+        starts.fill(1);
+        return starts;
+    }
     struct List {
         std::vector<int> kinds;
-        std::vector<int> counts = std::vector<int>(Levels);
+        std::array<int, Levels> starts = startsAtOne();
+        std::array<int, Levels> counts = {};
     };
     List* list(int number);
 

@@ -84,6 +84,7 @@ void Reader::takeWord(const RtfToken& token) {
     if (row && row->use == WordUse::Text) leftOut_ = 0;
     const bool opens = row && (row->use == WordUse::Opens || row->use == WordUse::Part);
     if (starred && !opens) {
+        state_.flush();
         state_.now().destination = Destination::Skipped;
         return;
     }
@@ -107,6 +108,10 @@ void Reader::takeSign(unsigned char sign) {
         return;
     }
     if (isLeftOut()) return;
+    if (sign == '\\' || sign == '{' || sign == '}') {
+        const char byte = static_cast<char>(sign);
+        return state_.addBytes({&byte, 1});
+    }
     state_.flush();
     const Destination where = state_.now().destination;
     switch (sign) {
@@ -124,11 +129,6 @@ void Reader::takeSign(unsigned char sign) {
         break;
     case '-':
         state_.addCharacters(QChar(0xAD));
-        break;
-    case '\\':
-    case '{':
-    case '}':
-        state_.addCharacters(QChar(sign));
         break;
     default:
         break;

@@ -30,6 +30,7 @@ bool RtfState::closeGroup() {
     const GroupState left = std::move(groups_.back());
     groups_.pop_back();
     if (left.destination != now().destination) leave(left);
+    if (left.isField && flow.characters() == left.fieldCharacters) addCharacters(left.fieldSymbol);
     return true;
 }
 
@@ -40,7 +41,7 @@ void RtfState::leave(const GroupState& group) {
     case Destination::Instruction:
         return takeInstruction();
     case Destination::Anchor:
-        return flow.addAnchor(std::exchange(anchor_, {}).trimmed());
+        return flow.addAnchor(onlyText(std::exchange(anchor_, {})).trimmed());
     case Destination::Fonts:
         return endFontTable();
     default:
@@ -49,8 +50,10 @@ void RtfState::leave(const GroupState& group) {
 }
 
 void RtfState::endFontTable() {
+    fonts.end();
+    const int font = fonts.indexOf(defaultFont);
     for (GroupState& group : groups_)
-        group.character.font = fonts.indexOf(defaultFont);
+        group.character.font = font;
 }
 
 void RtfState::addBytes(std::string_view bytes) {
@@ -89,7 +92,9 @@ void RtfState::flush() {
 }
 
 void RtfState::addCharacters(const QString& characters) {
-    const auto addTo = [&characters](QString& line) { line = (line + characters).left(LongestInstruction); };
+    const auto addTo = [&characters](QString& line) {
+        line += QStringView(characters).left(LongestInstruction - line.size());
+    };
     switch (now().destination) {
     case Destination::Body:
         if (!now().hidden) flow.addText(onlyText(characters), now().character);
@@ -98,6 +103,8 @@ void RtfState::addCharacters(const QString& characters) {
         return addTo(instruction_);
     case Destination::Anchor:
         return addTo(anchor_);
+    case Destination::Fonts:
+        return fonts.addName(characters);
     default:
         return;
     }
@@ -116,7 +123,8 @@ int RtfState::nested() const {
     return group.inTable ? std::max(group.nested, 1) : 0;
 }
 
-void RtfState::endParagraph() {
+// That of the list before a paragraph's first character.
+void RtfState::addSign() {
     const GroupState& group = now();
     if (group.list > 0 && spelledSign) lists.count(group.list, group.listLevel);
     if (group.list > 0 && !spelledSign && !flow.isParagraphEmpty()) {
@@ -124,11 +132,15 @@ void RtfState::endParagraph() {
         if (!sign.isEmpty()) flow.putFirst(sign + '\t', group.character);
     }
     spelledSign = false;
-    flow.endParagraph(group.paragraph, group.character, nested());
+}
+
+void RtfState::endParagraph() {
+    addSign();
+    flow.endParagraph(now().paragraph, now().character, nested());
 }
 
 void RtfState::endCell() {
-    spelledSign = false;
+    addSign();
     flow.endCell(now().paragraph, now().character, nested());
 }
 
@@ -217,19 +229,27 @@ void RtfState::takePicture() {
     if (pictureBytes_ <= MostPictureBytes) flow.addPicture(std::move(*taken), now().character);
 }
 
+GroupState* RtfState::field() {
+    const auto found =
+        std::find_if(groups_.rbegin(), groups_.rend(), [](const auto& group) { return group.isField; });
+    return found == groups_.rend() ? nullptr : &*found;
+}
+
 void RtfState::takeInstruction() {
-    const QString link = linkOfInstruction(std::exchange(instruction_, {}));
+    const QString instruction = std::exchange(instruction_, {});
+    GroupState* of = field();
+    if (!of) return;
+    of->fieldSymbol = symbolOfInstruction(instruction, textCodePage);
+    of->fieldCharacters = flow.characters();
+    const QString link = linkOfInstruction(instruction);
     if (link.isEmpty() || text.links.size() >= MostLinks) return;
     text.links.push_back(link);
-    const auto field =
-        std::find_if(groups_.rbegin(), groups_.rend(), [](const auto& group) { return group.isField; });
-    if (field != groups_.rend()) field->fieldLink = static_cast<int>(text.links.size()) - 1;
+    of->fieldLink = static_cast<int>(text.links.size()) - 1;
 }
 
 void RtfState::beginFieldResult() {
-    const auto field =
-        std::find_if(groups_.rbegin(), groups_.rend(), [](const auto& group) { return group.isField; });
-    if (field != groups_.rend() && field->fieldLink >= 0) now().character.link = field->fieldLink;
+    const GroupState* of = field();
+    if (of && of->fieldLink >= 0) now().character.link = of->fieldLink;
 }
 
 } // namespace tabrova

@@ -37,6 +37,8 @@ struct GroupState {
     int bytesAfterUnicode = 1;
     bool isField = false;
     int fieldLink = -1;
+    QString fieldSymbol = {};        // the character that the field is, if it shows none
+    std::size_t fieldCharacters = 0; // of the whole text, when it was told
 };
 
 class RtfState {
@@ -99,6 +101,8 @@ class RtfState {
     int nested() const;
     void endRowsText();
     void leave(const GroupState& group);
+    GroupState* field(); // the innermost; nullptr for none
+    void addSign();
     void takePicture();
     void takeInstruction();
     void endColors(std::string_view bytes);
@@ -117,5 +121,8 @@ class RtfState {
 
 // The address or the place that a field's instruction tells, "#" before a place; empty for other fields.
 QString linkOfInstruction(const QString& instruction);
+
+// The character that a field's instruction tells by its number and font; empty for other fields.
+QString symbolOfInstruction(const QString& instruction, int textCodePage);
 
 } // namespace tabrova
