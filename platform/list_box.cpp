@@ -69,7 +69,12 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
     }
     const int before = currentRow();
     const bool nothingChosen = selectedItems().isEmpty();
-    QListWidget::keyPressEvent(event);
+    const bool arrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    // The toolkit would pass over the row that has the keyboard, and leave one that is alone.
+    if (nothingChosen && arrow && before >= 0)
+        setCurrentRow(before, QItemSelectionModel::ClearAndSelect);
+    else
+        QListWidget::keyPressEvent(event);
     const bool chosenNow = nothingChosen && !selectedItems().isEmpty();
     if (keyClick_ == KeyClick::AtMove && (currentRow() != before || chosenNow)) raiseClick();
 }

@@ -40,6 +40,22 @@ TEST_F(Lists, RaiseOneClickForAMoveByKeys) {
     EXPECT_EQ(rows, (std::vector<int>{1, 2}));
 }
 
+TEST_F(Lists, AreEnteredByAnArrowKeyAtTheRowThatHasTheKeyboard) {
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up})
+        for (const int rowCount : {1, 3}) {
+            ListBox fresh("lst", nullptr);
+            for (int row = 0; row < rowCount; ++row)
+                fresh.addItem(QString::number(row));
+            std::vector<int> chosen;
+            fresh.Click = [&] { chosen.push_back(fresh.chosenRow()); };
+            fresh.show();
+            fresh.setCurrentRow(0, QItemSelectionModel::NoUpdate);
+            QTest::keyClick(&fresh, key);
+            EXPECT_EQ(chosen, std::vector<int>{0});
+            EXPECT_EQ(fresh.chosenRow(), 0);
+        }
+}
+
 TEST_F(Lists, ThatEndWithAChoiceRaiseItsClickOnlyForReturnEnterAndSpace) {
     ListBox ending("lst", nullptr, ListBox::KeyClick::AtEnter);
     ending.addItems({"a", "b", "c"});
