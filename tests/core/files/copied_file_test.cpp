@@ -106,17 +106,40 @@ TEST_F(CopiedFile, LeavesWhatWasThereWhereTheDiskIsFull) {
 }
 
 // A copy that was broken off may have left one, or somebody a link to write through.
-TEST_F(CopiedFile, WritesThroughNothingThatStandsBesideIt) {
+TEST_F(CopiedFile, TouchesNothingThatStandsBesideIt) {
     const fs::path other = folder.path() / "other";
     write(from, "new");
     write(other, "other");
-    fs::create_symlink(other, folder.path() / "to.part");
+    write(folder.path() / "to.part", "part");
+    fs::create_symlink(other, folder.path() / ".copy0");
+    ASSERT_EQ(mkfifo((folder.path() / ".copy1").c_str(), 0600), 0);
+    write(folder.path() / ".copy2", "before");
     EXPECT_TRUE(copyRegularFile(from, to));
-    EXPECT_EQ(bytesOf(other), "other");
     EXPECT_EQ(bytesOf(to), "new");
-    EXPECT_EQ(entries(), 3U);
-    ASSERT_EQ(mkfifo((folder.path() / "to.part").c_str(), 0600), 0);
+    EXPECT_EQ(bytesOf(other), "other");
+    EXPECT_EQ(bytesOf(folder.path() / "to.part"), "part");
+    EXPECT_EQ(bytesOf(folder.path() / ".copy2"), "before");
+    EXPECT_EQ(entries(), 7U);
+}
+
+TEST_F(CopiedFile, FailsWhereNoPlaceIsLeft) {
+    write(from, "new");
+    write(to, "old");
+    for (int number = 0; number < 100; ++number)
+        write(folder.path() / (".copy" + std::to_string(number)), "");
     EXPECT_FALSE(copyRegularFile(from, to));
+    EXPECT_EQ(bytesOf(to), "old");
+    fs::remove(folder.path() / ".copy99");
+    EXPECT_TRUE(copyRegularFile(from, to));
+    EXPECT_EQ(bytesOf(to), "new");
+    EXPECT_EQ(entries(), 101U);
+}
+
+TEST_F(CopiedFile, MayHaveTheLongestName) {
+    write(from, "new");
+    const fs::path longest = folder.path() / std::string(255, 'n');
+    EXPECT_TRUE(copyRegularFile(from, longest));
+    EXPECT_EQ(bytesOf(longest), "new");
 }
 
 } // namespace
