@@ -131,13 +131,10 @@ void frmWebsites::goToSite() {
     if (showSelected()) services().addresses.open(SiteLoader_->text());
 }
 
-// The description of the deleted entry stays.
+// Whether the entry could be removed or not. Its description stays.
 void frmWebsites::deleteEntry() {
     if (sitesList_->chosenRow() < 0) return;
-    const std::filesystem::path file = folder() / sitesList_->chosenName();
-    removeEntryFile(file);
-    std::error_code unknown;
-    if (std::filesystem::exists(std::filesystem::symlink_status(file, unknown))) return;
+    removeEntryFile(folder() / sitesList_->chosenName());
     sitesList_->readAgain();
     SiteLoader_->clear();
 }

@@ -264,7 +264,7 @@ TEST_F(WebsiteWindow, DeleteWithNothingSelectedDoesNothing) {
     EXPECT_EQ(text("SiteLoader"), "http://b.example");
 }
 
-TEST_F(WebsiteWindow, WhatCannotBeDeletedStaysShown) {
+TEST_F(WebsiteWindow, AFailureToDeleteIsPassedOver) {
     bring("A", "http://a.example\r\n");
     open();
     click("A");
@@ -272,7 +272,8 @@ TEST_F(WebsiteWindow, WhatCannotBeDeletedStaysShown) {
     fs::create_directories(file("A"));
     press("Command3");
     EXPECT_TRUE(fs::exists(file("A")));
-    EXPECT_EQ(text("SiteLoader"), "http://a.example");
+    EXPECT_TRUE(sites().empty());
+    EXPECT_EQ(text("SiteLoader"), "");
 }
 
 TEST_F(WebsiteWindow, TextsOfEveryLanguageComeBack) {
