@@ -1,5 +1,6 @@
 #include "richtext/document/rich_text_document.h"
 
+#include "richtext/document/long_words.h"
 #include "richtext/document/rich_looks.h"
 #include "richtext/document/rich_picture.h"
 #include "richtext/document/rich_table.h"
@@ -101,8 +102,10 @@ void Builder::addParagraph(const RichParagraph& paragraph) {
         format.setAnchorNames(QStringList(paragraph.anchors.begin(), paragraph.anchors.end()));
     }
     cursor_.mergeBlockCharFormat(format);
+    LongWords words;
     for (const RichRun& run : paragraph.runs)
-        run.picture < 0 ? cursor_.insertText(run.text, characterFormat(run.look, scale_)) : addPicture(run);
+        run.picture < 0 ? cursor_.insertText(words.breakable(run.text), characterFormat(run.look, scale_))
+                        : addPicture(run);
 }
 
 void Builder::addPicture(const RichRun& run) {

@@ -170,7 +170,7 @@ class RandomOrganiserActs : public ToolBench, public ::testing::WithParamInterfa
                                    "<i>x</i>\r\n<br>",
                                    std::string("n\0l\r\nb", 6),
                                    "say \"x, y\" z, w\r\n",
-                                   std::string(50'000, 'a') + "\r\n" + std::string(50'000, 'b'),
+                                   std::string(200'000, 'a') + "\r\n" + std::string(200'000, 'b'),
                                    "a\n\nb"});
     }
 
