@@ -39,6 +39,10 @@ void lay(const RichText& text) {
 
 } // namespace
 
+// The library of the system's fonts keeps what it has read.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     startToolkit();
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);

@@ -14,6 +14,8 @@ void readAs(QImageReader& reader, PictureKind kind) {
     reader.setFormat(kind == PictureKind::Png ? "png" : "jpeg");
 }
 
+constexpr int Longest = 4000; // pixels of the page, for a picture that tells no size
+
 qint64 pixels(QSize size) { return static_cast<qint64>(size.width()) * size.height(); }
 
 } // namespace
@@ -27,7 +29,8 @@ QSize shownSize(const RichPicture& picture, int pixelsPerInch) {
     if (own.isEmpty()) return {};
     const qreal scale = pixelsPerInch / 1440.0;
     const QSizeF told(picture.width * scale, picture.height * scale);
-    if (told.isEmpty()) return own;
+    if (told.isEmpty())
+        return own.scaled(own.boundedTo({Longest, Longest}), Qt::KeepAspectRatio).expandedTo({1, 1});
     return told.toSize().expandedTo({1, 1});
 }
 
@@ -39,6 +42,7 @@ QImage RichPictures::decode(const RichPicture& picture, QSize shown, qreal pixel
     const QSize own = reader.size();
     const QSize sharp = (QSizeF(shown) * pixelRatio).toSize().expandedTo({1, 1});
     if (own.isEmpty() || pixels(own) > MostPixels || kept_ + pixels(sharp) > MostPixelsTogether) return {};
+    if ((decoded_ += pixels(own)) > MostPixelsDecoded) return {};
     QImage image = reader.read();
     if (image.isNull()) return {};
     kept_ += pixels(sharp);

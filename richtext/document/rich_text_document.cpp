@@ -1,7 +1,6 @@
 #include "richtext/document/rich_text_document.h"
 
-#include "richtext/document/long_words.h"
-#include "richtext/document/rich_looks.h"
+#include "richtext/document/rich_formats.h"
 #include "richtext/document/rich_picture.h"
 #include "richtext/document/rich_table.h"
 
@@ -16,6 +15,7 @@ namespace tabrova {
 namespace {
 
 constexpr int MostColumns = 64;
+constexpr int MostPlaces = 12'000; // of a table: its rows by its columns
 constexpr QRgb BorderInk = 0xFF000000;
 
 QTextCharFormat::VerticalAlignment cellAlignment(CellPlace place) {
@@ -60,6 +60,7 @@ class Builder {
     QTextDocument& document_;
     QTextCursor cursor_;
     RichPictures pictures_;
+    RichFormats formats_{scale_};
 };
 
 void Builder::addBlocks(const std::vector<RichBlock>& blocks) {
@@ -94,18 +95,16 @@ void Builder::makeBlockFlat() {
 void Builder::addParagraph(const RichParagraph& paragraph) {
     const bool hasTabs = std::any_of(paragraph.runs.begin(), paragraph.runs.end(),
                                      [](const RichRun& run) { return run.text.contains('\t'); });
-    cursor_.setBlockFormat(paragraphFormat(paragraph.look, hasTabs, scale_));
+    cursor_.setBlockFormat(formats_.of(paragraph.look, hasTabs));
     const CharacterLook& look = paragraph.runs.empty() ? paragraph.endLook : paragraph.runs.front().look;
-    QTextCharFormat format = characterFormat(look, scale_);
+    QTextCharFormat format = formats_.of(look);
     if (!paragraph.anchors.empty()) {
         format.setAnchor(true);
         format.setAnchorNames(QStringList(paragraph.anchors.begin(), paragraph.anchors.end()));
     }
     cursor_.mergeBlockCharFormat(format);
-    LongWords words;
     for (const RichRun& run : paragraph.runs)
-        run.picture < 0 ? cursor_.insertText(words.breakable(run.text), characterFormat(run.look, scale_))
-                        : addPicture(run);
+        run.picture < 0 ? cursor_.insertText(run.text, formats_.of(run.look)) : addPicture(run);
 }
 
 void Builder::addPicture(const RichRun& run) {
@@ -114,7 +113,7 @@ void Builder::addPicture(const RichRun& run) {
     const QString name = shown.isEmpty() ? QString() : nameOf(run.picture, shown);
     if (name.isEmpty()) return;
     QTextImageFormat format;
-    format.merge(characterFormat(run.look, scale_));
+    format.merge(formats_.of(run.look));
     format.setName(name);
     format.setWidth(shown.width());
     format.setHeight(shown.height());
@@ -191,10 +190,11 @@ void Builder::setBorders(QTextTableCellFormat& format, const CellLook& look) con
 }
 
 void Builder::addTable(const RichTable& rich, int above) {
-    const TableGrid grid = tableGrid(rich, MostColumns);
+    const int rows = static_cast<int>(rich.rows.size());
+    const TableGrid grid = tableGrid(rich, std::clamp(MostPlaces / rows, 1, MostColumns));
     QTextTableFormat look = tableFormat(rich, grid);
     look.setTopMargin(scale_.pixels(above));
-    QTextTable* table = cursor_.insertTable(static_cast<int>(rich.rows.size()), grid.columns(), look);
+    QTextTable* table = cursor_.insertTable(rows, grid.columns(), look);
     for (const PlacedCell& cell : grid.cells) {
         if (cell.rows > 1 || cell.columns > 1)
             table->mergeCells(cell.row, cell.column, cell.rows, cell.columns);
@@ -204,7 +204,8 @@ void Builder::addTable(const RichTable& rich, int above) {
         // The format of its first paragraph's end, and how many rows and columns it takes.
         QTextCharFormat format = at.format();
         format.clearBackground();
-        format.merge(cellFormat(*cell.look, rich.rows[static_cast<std::size_t>(cell.row)].look));
+        format.merge(cellFormat(formats_.plainIfTooMany(*cell.look),
+                                rich.rows[static_cast<std::size_t>(cell.row)].look));
         at.setFormat(format);
     }
     cursor_ = table->lastCursorPosition();

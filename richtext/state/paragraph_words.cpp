@@ -8,6 +8,8 @@ namespace {
 using State = RtfState;
 using Number = RtfNumber;
 
+constexpr int HighestLine = 2400; // twips, or ten lines
+
 ParagraphLook& look(State& state) { return state.now().paragraph; }
 
 template <int ParagraphLook::*Length>
@@ -34,7 +36,7 @@ void tabSide(State& state, Number) {
 // The height of a line: 0 is the font's own, one below 0 is exact.
 void lineHeight(State& state, Number number) {
     ParagraphLook& paragraph = look(state);
-    paragraph.line = std::abs(number.twips());
+    paragraph.line = std::min(std::abs(number.twips()), HighestLine);
     paragraph.spacing = number.value() == 0  ? LineSpacing::Auto
                         : number.value() < 0 ? LineSpacing::Exactly
                                              : LineSpacing::AtLeast;

@@ -17,6 +17,15 @@ QString decoded(std::string_view bytes) {
     return utf8.hasError() ? QString::fromStdString(utf8FromCodePage(bytes)) : text;
 }
 
+void addLine(RichFlow& flow, QStringView line) {
+    do {
+        const QStringView taken = line.left(flow.fitting(line, {}));
+        flow.addText(taken.toString(), {});
+        flow.endParagraph({}, {}, 0);
+        line = line.mid(taken.size());
+    } while (!line.isEmpty() && !flow.isFull());
+}
+
 } // namespace
 
 RichText readPlainText(std::string_view bytes) {
@@ -24,8 +33,7 @@ RichText readPlainText(std::string_view bytes) {
     RichFlow flow(text);
     for (const QStringView line : QStringTokenizer(decoded(bytes), u'\n')) {
         if (flow.isFull()) break;
-        flow.addText(onlyText(line.toString()), {});
-        flow.endParagraph({}, {}, 0);
+        addLine(flow, onlyText(line.toString()));
     }
     return text;
 }

@@ -97,7 +97,7 @@ void RtfState::addCharacters(const QString& characters) {
     };
     switch (now().destination) {
     case Destination::Body:
-        if (!now().hidden) flow.addText(onlyText(characters), now().character);
+        if (!now().hidden) addText(onlyText(characters));
         return;
     case Destination::Instruction:
         return addTo(instruction_);
@@ -110,8 +110,26 @@ void RtfState::addCharacters(const QString& characters) {
     }
 }
 
+void RtfState::addText(const QString& characters) {
+    for (QStringView rest = characters; !rest.isEmpty() && !flow.isFull();) {
+        if (flow.isParagraphLong()) endParagraph();
+        const QStringView taken = rest.left(flow.fitting(rest, now().character));
+        flow.addText(taken.toString(), now().character);
+        rest = rest.mid(taken.size());
+    }
+}
+
 void RtfState::addUnicode(char16_t unit) {
     constexpr char16_t FirstPicture = 0xF020, LastPicture = 0xF0FF;
+    const char16_t high = std::exchange(highHalf_, char16_t{0});
+    if (QChar::isHighSurrogate(unit)) {
+        highHalf_ = unit;
+        return;
+    }
+    if (QChar::isLowSurrogate(unit)) {
+        if (high) addCharacters(QString(QChar(high)) + QChar(unit));
+        return;
+    }
     if (unit < FirstPicture || unit > LastPicture) return addCharacters(QChar(unit));
     const int font = now().character.font;
     const QString name = font < 0 ? QString() : text.fonts[static_cast<std::size_t>(font)].name;

@@ -63,7 +63,8 @@ class RtfState {
     // Bytes as they stand, of text or of what else the group holds.
     void addBytes(std::string_view bytes);
     void addCharacters(const QString& text);
-    // A code unit of UTF-16. One of the places where fonts of pictures keep theirs is that picture's sign.
+    // A code unit of UTF-16; half of a pair alone is nothing. One of the places where fonts of pictures keep
+    // theirs is that picture's sign.
     void addUnicode(char16_t unit);
     void flush();
 
@@ -106,6 +107,7 @@ class RtfState {
     void takePicture();
     void takeInstruction();
     void endColors(std::string_view bytes);
+    void addText(const QString& characters);
     void addBodyBytes(std::string_view bytes);
 
     std::vector<GroupState> groups_;
@@ -117,6 +119,7 @@ class RtfState {
     QString instruction_;
     QString anchor_;
     qsizetype pictureBytes_ = 0;
+    char16_t highHalf_ = 0; // of a pair that is to be completed
 };
 
 // The address or the place that a field's instruction tells, "#" before a place; empty for other fields.

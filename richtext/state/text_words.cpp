@@ -20,12 +20,17 @@ void page(State& state, Number) {
     if (!state.flow.isParagraphEmpty()) state.endParagraph();
 }
 
+void line(State& state, Number) {
+    if (state.flow.isParagraphLarge()) return state.endParagraph();
+    state.addCharacters(QChar(0x2028));
+}
+
 constexpr RtfWordRow Words[] = {
     {"par", WordUse::Text, paragraph},
     {"sect", WordUse::Text, page},
     {"page", WordUse::Text, page},
     {"column", WordUse::Text, page},
-    {"line", WordUse::Text, character<u'\u2028'>},
+    {"line", WordUse::Text, line},
     {"tab", WordUse::Text, character<u'\t'>},
     {"emdash", WordUse::Character, character<u'\u2014'>},
     {"endash", WordUse::Character, character<u'\u2013'>},

