@@ -42,7 +42,7 @@ QImage RichPictures::decode(const RichPicture& picture, QSize shown, qreal pixel
     const QSize own = reader.size();
     const QSize sharp = (QSizeF(shown) * pixelRatio).toSize().expandedTo({1, 1});
     if (own.isEmpty() || pixels(own) > MostPixels || kept_ + pixels(sharp) > MostPixelsTogether) return {};
-    if ((decoded_ += pixels(own)) > MostPixelsDecoded) return {};
+    if ((decoded_ += pixels(own)) > mostDecoded_) return {};
     QImage image = reader.read();
     if (image.isNull()) return {};
     kept_ += pixels(sharp);

@@ -16,11 +16,15 @@ class RichPictures {
 
     static constexpr qint64 MostPixelsDecoded = 200'000'000; // which takes about two seconds
 
+    // `mostDecoded`: pixels of all together, before they are made smaller.
+    explicit RichPictures(qint64 mostDecoded = MostPixelsDecoded) : mostDecoded_(mostDecoded) {}
+
     // With the very pixels that it shows as, so many to a pixel of the page: a document would leave out lines
     // of a larger picture. Null if the bytes are no picture of their kind or a bound is passed.
     QImage decode(const RichPicture& picture, QSize shown, qreal pixelRatio);
 
   private:
+    qint64 mostDecoded_;
     qint64 kept_ = 0;
     qint64 decoded_ = 0;
 };
