@@ -54,6 +54,7 @@ constexpr RtfWordRow Words[] = {
     {"fldinst", WordUse::Opens, instruction},
     {"fldrslt", WordUse::Opens, fieldResult},
     {"bkmkstart", WordUse::Opens, opens<Destination::Anchor>},
+    {"bkmkend", WordUse::Opens, opens<Destination::Skipped>},
     {"listtext", WordUse::Opens, listText},
     {"pntext", WordUse::Opens, listText},
     {"nesttableprops", WordUse::Opens, nestedTable},

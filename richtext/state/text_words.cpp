@@ -13,7 +13,10 @@ void character(State& state, Number) {
     state.addCharacters(QChar(Character));
 }
 
-void paragraph(State& state, Number) { state.endParagraph(); }
+// A hidden end joins the paragraphs.
+void paragraph(State& state, Number) {
+    if (!state.now().hidden) state.endParagraph();
+}
 
 // A page shows as one long page: its end is no more than the paragraph's.
 void page(State& state, Number) {

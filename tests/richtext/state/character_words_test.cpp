@@ -148,6 +148,7 @@ TEST(CharacterWords, HiddenTextIsNotShown) {
     EXPECT_EQ(shownBody("a{\\v b{c}\\u8212?\\emdash\\~}d"), "ad");
     EXPECT_EQ(shownBody("a{\\v b\\v0 c}d"), "acd");
     EXPECT_EQ(shownBody("a{\\deleted b}c"), "ac");
+    EXPECT_EQ(shownBody("a{\\v b\\par c}d\\par e"), "ad/e");
 }
 
 } // namespace

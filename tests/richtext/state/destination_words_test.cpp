@@ -54,6 +54,7 @@ constexpr const char* NotShown[] = {
     "pict",
     "fldinst",
     "bkmkstart",
+    "bkmkend",
     "shpinst",
     "upr",
 };
