@@ -231,6 +231,7 @@ class RandomBandActs : public RandomOrganiserActs<frmBandManager> {
                 if (into->size() > 50 || into->contains('/') || into->contains('\\') ||
                     into->contains('\n') || into->contains('\t'))
                     *into = enter(at<QLineEdit>(name), "7");
+        if (below(2) == 0) model->memo = enter(at<QLineEdit>("txtmemo"), anyText());
         onDisk([this] { press("Command6"); });
         model->AddGig();
         room.full = false;

@@ -160,9 +160,10 @@ class RandomLessonActs : public RandomOrganiserActs<frmLessons> {
         model->uninstall(answer == 0);
     }
     void resize() {
-        const bool small = below(2) == 0;
-        const auto width = static_cast<int>(1 + below(small ? 700 : 1400));
-        const auto height = static_cast<int>(1 + below(small ? 150 : 900));
+        // At the edges of what is laid out, or anywhere.
+        const bool edge = below(2) == 0;
+        const int width = edge ? oneOf<int>({133, 134, 135, 533, 534}) : static_cast<int>(1 + below(1400));
+        const int height = below(2) == 0 ? oneOf<int>({66, 67, 68}) : static_cast<int>(1 + below(900));
         window->resize(width, height);
         told = "resize " + std::to_string(window->width()) + "," + std::to_string(window->height());
         model->resize(window->width(), window->height());
