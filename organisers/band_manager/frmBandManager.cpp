@@ -123,17 +123,18 @@ void frmBandManager::AddGig() {
     txtmemo_->clear();
 }
 
+std::filesystem::path frmBandManager::GigFile() const { return folder() / File1_->chosenName(); }
+
 // At once, without a question.
 void frmBandManager::deleteGig() {
-    if (File1_->chosenRow() >= 0) removeEntryFile(folder() / File1_->chosenName());
+    if (File1_->chosenRow() >= 0) removeEntryFile(GigFile());
     File1_->readAgain();
 }
 
 void frmBandManager::showGig() {
-    const std::filesystem::path name = File1_->chosenName();
-    const auto memo = readMemo(folder() / name);
+    const auto memo = readMemo(GigFile());
     if (!memo) return;
-    services().boxes.ask({shortened(gigHeading(gigOf(textOf(name))), LongestCaption),
+    services().boxes.ask({shortened(gigHeading(gigOf(textOf(File1_->chosenName()))), LongestCaption),
                           shortened(*memo, LongestCaption), BoxIcon::None});
 }
 

@@ -50,6 +50,8 @@ class frmBandManager : public ToolWindow {
     void AddGig();
     void deleteGig();
     void showGig();
+    // Of the chosen gig.
+    std::filesystem::path GigFile() const;
     std::filesystem::path folder() const { return programFolder() / "gigs"; }
 
     QLineEdit* box(int member, MemberField field) const {

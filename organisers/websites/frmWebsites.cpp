@@ -109,9 +109,11 @@ void frmWebsites::Form_Load() {
     sitesList_->showFolder(folder());
 }
 
+std::filesystem::path frmWebsites::SiteFile() const { return folder() / sitesList_->chosenName(); }
+
 bool frmWebsites::showSelected() {
     if (sitesList_->chosenRow() < 0) return false;
-    const auto site = readSite(folder() / sitesList_->chosenName());
+    const auto site = readSite(SiteFile());
     if (!site) return false;
     SiteLoader_->setText(site->address);
     SiteLoader_->setCursorPosition(0);
@@ -134,7 +136,7 @@ void frmWebsites::goToSite() {
 // Whether the entry could be removed or not. Its description stays.
 void frmWebsites::deleteEntry() {
     if (sitesList_->chosenRow() < 0) return;
-    removeEntryFile(folder() / sitesList_->chosenName());
+    removeEntryFile(SiteFile());
     sitesList_->readAgain();
     SiteLoader_->clear();
 }

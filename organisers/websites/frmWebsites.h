@@ -29,6 +29,8 @@ class frmWebsites : public ToolWindow {
     void saveEntry();
     void goToSite();
     void deleteEntry();
+    // Of the selected entry.
+    std::filesystem::path SiteFile() const;
     std::filesystem::path folder() const { return programFolder() / "sites"; }
 
     FolderList* sitesList_;
