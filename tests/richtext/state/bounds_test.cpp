@@ -62,6 +62,8 @@ TEST(Bounds, OfTheHeight) {
         return readBody(words + " " + repeated(text + "\\par ", 10'000)).blocks.size();
     };
     EXPECT_EQ(paragraphs("", "word"), 10'000U);
+    EXPECT_EQ(paragraphs("\\fs48", std::string(80, 'x')), 10'000U);
+    EXPECT_LT(paragraphs("\\fs49", std::string(80, 'x')), 4000U);
     EXPECT_LT(paragraphs("\\fs1000", "word"), 3000U);
     EXPECT_LT(paragraphs("\\sb31680", "word"), 3800U);
     EXPECT_LT(paragraphs("\\sa31680", "word"), 3800U);

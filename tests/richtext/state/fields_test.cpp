@@ -22,6 +22,7 @@ TEST(FieldLinks, AreTheAddressOfAHyperlink) {
     EXPECT_EQ(linkOf("hyperlink \"mailto:x@y\" "), "mailto:x@y");
     EXPECT_EQ(linkOf("HYPERLINK"), "");
     EXPECT_EQ(linkOf("HYPERLINK \"\""), "");
+    EXPECT_EQ(linkOf("HYPERLINK \"\" \"http://a\""), "http://a");
     EXPECT_EQ(linkOf("HYPERLINK \"http://a"), "http://a");
 }
 

@@ -80,6 +80,9 @@ TEST(Lists, BeginWhereTheyAreToldTo) {
     const std::string list = "{\\*\\listtable{\\list" + level(0, "\\levelstartat5") +
                              level(4, "\\levelstartat3") +
                              "\\listid7}}{\\*\\listoverridetable{\\listoverride\\listid7\\ls1}}";
+    EXPECT_EQ(shownBody("{\\listtable{\\list" + level(0, "\\levelstartat") +
+                        "\\listid7}}{\\listoverridetable\\listid7\\ls1}\\pard\\ls1 a"),
+              "1.>a");
     EXPECT_EQ(shownBody(list + "\\pard\\ls1 a\\par\\ilvl1 b\\par\\ilvl0 c\\par\\ilvl1 d"),
               "5.>a/c.>b/6.>c/c.>d");
 }
