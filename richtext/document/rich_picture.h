@@ -16,7 +16,7 @@ class RichPictures {
 
     static constexpr qint64 MostPixelsDecoded = 200'000'000; // which takes about two seconds
 
-    // `mostDecoded`: pixels of all together, before they are made smaller.
+    // `mostDecoded`: pixels of all together, before they are made smaller, by the passes over them.
     explicit RichPictures(qint64 mostDecoded = MostPixelsDecoded) : mostDecoded_(mostDecoded) {}
 
     // With the very pixels that it shows as, so many to a pixel of the page: a document would leave out lines

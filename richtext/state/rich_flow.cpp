@@ -9,7 +9,7 @@ namespace {
 
 constexpr int CellWithoutEdge = 1440;
 constexpr std::size_t CellBlocks = 4;   // blocks that a cell counts for
-constexpr std::size_t TableBlocks = 12; // and a table
+constexpr std::size_t TableBlocks = 20; // and a table
 
 constexpr std::size_t LongestParagraph = 240'000; // characters by their height: 10,000 ordinary ones
 constexpr std::size_t MostPieces = 400;           // of a paragraph: its runs, and its tabs at four each

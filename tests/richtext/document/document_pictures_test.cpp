@@ -136,5 +136,18 @@ TEST(DocumentPictures, HaveABoundOfWork) {
     EXPECT_TRUE(pictures.decode(small, {5, 4}, 1).isNull());
 }
 
+// Some kinds are drawn in passes, of which a few bytes may be told.
+TEST(DocumentPictures, OfThousandsOfPassesAreLeftOut) {
+    const QByteArray bytes = written("jpeg");
+    const auto decodes = [&](int passes, PictureKind kind, const QByteArray& whole) {
+        return !RichPictures(30 * 20 * 10)
+                    .decode(picture(whole + QByteArray("\xFF\xDA").repeated(passes), kind), {5, 4}, 1)
+                    .isNull();
+    };
+    EXPECT_TRUE(decodes(118, PictureKind::Jpeg, bytes)); // and one of its own
+    EXPECT_FALSE(decodes(119, PictureKind::Jpeg, bytes));
+    EXPECT_TRUE(decodes(1000, PictureKind::Png, written("png")));
+}
+
 } // namespace
 } // namespace tabrova

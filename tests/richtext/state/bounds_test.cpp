@@ -88,7 +88,7 @@ TEST(Bounds, OfParagraphs) {
 TEST(Bounds, OfTables) {
     const std::string row = "\\trowd\\cellx1000\\pard\\intbl\\cell\\row";
     EXPECT_EQ(tableAt(readBody(repeated(row, 20'000)), 0).rows.size(), 10'000U);
-    EXPECT_EQ(readBody(repeated(row + "\\pard\\par", 20'000)).blocks.size() / 2, 50'000U / 18 + 1);
+    EXPECT_EQ(readBody(repeated(row + "\\pard\\par", 20'000)).blocks.size() / 2, 50'000U / 26);
     const std::string inner = "\\pard\\intbl\\itap2\\nestcell{\\*\\nesttableprops\\trowd\\cellx300\\nestrow}";
     const RichText nested = readBody(repeated(inner, 20'000));
     EXPECT_EQ(std::get<std::unique_ptr<RichTable>>(tableAt(nested, 0).rows[0].cells[0][0])->rows.size(),
