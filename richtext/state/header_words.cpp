@@ -20,6 +20,11 @@ void colorPart(State& state, Number number) {
     if (state.now().destination == Destination::Colors) state.setPart(Part, number.value());
 }
 
+// Only a font can be one of pictures.
+void textCodePage(State& state, Number number) {
+    if (number.value() > 0 && number.value() != SymbolCodePage) state.textCodePage = number.value();
+}
+
 template <int Page>
 void codePage(State& state, Number) {
     state.textCodePage = Page;
@@ -50,10 +55,7 @@ void list(State& state, Number) {
 }
 
 constexpr RtfWordRow Words[] = {
-    {"ansicpg", WordUse::Look,
-     [](State& state, Number n) {
-         if (n.value() > 0) state.textCodePage = n.value();
-     }},
+    {"ansicpg", WordUse::Look, textCodePage},
     {"mac", WordUse::Look, codePage<MacintoshCodePage>},
     {"pc", WordUse::Look, codePage<437>},
     {"pca", WordUse::Look, codePage<850>},

@@ -78,6 +78,7 @@ TEST(DocumentLooks, OfCharacters) {
     EXPECT_EQ(characterFormatOf("\\sub").verticalAlignment(), QTextCharFormat::AlignSubScript);
     EXPECT_EQ(characterFormatOf("\\up6").baselineOffset(), 25);
     EXPECT_EQ(characterFormatOf("\\fs12\\dn6").baselineOffset(), -50);
+    EXPECT_EQ(characterFormatOf("\\fs20\\dn1").baselineOffset(), -5);
     EXPECT_EQ(characterFormatOf("\\cf1").foreground().color(), QColor(255, 0, 0));
     EXPECT_EQ(characterFormatOf("\\cb2").background().color(), QColor(0, 0, 255));
     const QTextCharFormat plain = characterFormatOf("");

@@ -46,6 +46,7 @@ constexpr PageCase Pages[] = {
     {"\\ansi\\ansicpg0", "\\'e4", "ä"},
     {"\\ansi\\ansicpg-5", "\\'e4", "ä"},
     {"\\ansi\\ansicpg4711", "\\'e4", "ä"},
+    {"\\ansi\\ansicpg42", "\\'e4", "ä"},
 };
 
 TEST(CodePages, OfTheText) {
@@ -55,27 +56,17 @@ TEST(CodePages, OfTheText) {
 }
 
 constexpr PageCase Fonts[] = {
-    {"\\fcharset0", "\\'e4", "ä"},
-    {"\\fcharset77", "\\'8a", "ä"},
-    {"\\fcharset128", "\\'93\\'fa", "日"},
-    {"\\fcharset129", "\\'b1\\'e2", "기"},
-    {"\\fcharset134", "\\'c4\\'e3", "你"},
-    {"\\fcharset136", "\\'a4\\'40", "一"},
-    {"\\fcharset161", "\\'e1", "α"},
-    {"\\fcharset162", "\\'fe", "ş"},
-    {"\\fcharset163", "\\'fe", "₫"},
-    {"\\fcharset177", "\\'e0", "א"},
-    {"\\fcharset178", "\\'c7", "ا"},
-    {"\\fcharset186", "\\'e0", "ą"},
-    {"\\fcharset204", "\\'f0", "р"},
-    {"\\fcharset222", "\\'a1", "ก"},
-    {"\\fcharset238", "\\'e8", "č"},
-    {"\\fcharset254", "\\'84", "ä"},
-    {"\\fcharset255", "\\'9b", "ø"},
-    {"\\fcharset1", "\\'e8", "č"},
-    {"", "\\'e8", "č"},
-    {"\\fcharset0\\cpg1251", "\\'f0", "р"},
-    {"\\cpg1251\\fcharset0", "\\'f0", "р"},
+    {"\\fcharset0", "\\'e4", "ä"},          {"\\fcharset77", "\\'8a", "ä"},
+    {"\\fcharset128", "\\'93\\'fa", "日"},  {"\\fcharset129", "\\'b1\\'e2", "기"},
+    {"\\fcharset134", "\\'c4\\'e3", "你"},  {"\\fcharset136", "\\'a4\\'40", "一"},
+    {"\\fcharset161", "\\'e1", "α"},        {"\\fcharset162", "\\'fe", "ş"},
+    {"\\fcharset163", "\\'fe", "₫"},        {"\\fcharset177", "\\'e0", "א"},
+    {"\\fcharset178", "\\'c7", "ا"},        {"\\fcharset186", "\\'e0", "ą"},
+    {"\\fcharset204", "\\'f0", "р"},        {"\\fcharset222", "\\'a1", "ก"},
+    {"\\fcharset238", "\\'e8", "č"},        {"\\fcharset254", "\\'84", "ä"},
+    {"\\fcharset255", "\\'9b", "ø"},        {"\\cpg42", "a", "α"},
+    {"\\fcharset1", "\\'e8", "č"},          {"", "\\'e8", "č"},
+    {"\\fcharset0\\cpg1251", "\\'f0", "р"}, {"\\cpg1251\\fcharset0", "\\'f0", "р"},
 };
 
 TEST(CodePages, OfTheFont) {
