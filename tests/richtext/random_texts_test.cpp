@@ -56,7 +56,7 @@ class RandomText {
     int number(int most) { return std::uniform_int_distribution(0, most)(random_); }
 
     std::string word() {
-        constexpr int Numbers[] = {0,   1,    2,    -1,   5,     23,         120,
+        constexpr int Numbers[] = {0,   42,   1,    2,    -1,    5,          23,         120,
                                    720, 2000, 9000, -360, 99999, 2147483647, -2147483647};
         std::string all =
             "\\" + std::string(words_[static_cast<std::size_t>(number(static_cast<int>(words_.size()) - 1))]);
