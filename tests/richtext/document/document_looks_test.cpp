@@ -246,6 +246,29 @@ TEST(DocumentLooks, OfThousandsTheLaterOnesArePlain) {
     }
 }
 
+TEST(DocumentLooks, EveryPartOfACellsLookCounts) {
+    RichText text;
+    const RichScale scale{text, 96};
+    const auto differs = [&](auto change) {
+        RichFormats formats(scale);
+        CellLook look;
+        look.borders[0].drawn = true;
+        for (QRgb color = 1; color <= 400; ++color) {
+            look.background = color;
+            formats.plainIfTooMany(look);
+        }
+        change(look);
+        return !formats.plainIfTooMany(look).background;
+    };
+    EXPECT_FALSE(differs([](CellLook&) {}));
+    EXPECT_TRUE(differs([](CellLook& look) { look.gap = 5; }));
+    EXPECT_TRUE(differs([](CellLook& look) { look.place = CellPlace::Bottom; }));
+    EXPECT_TRUE(differs([](CellLook& look) { look.borders[0].width = 7; }));
+    EXPECT_TRUE(differs([](CellLook& look) { look.borders[0].drawn = false; }));
+    EXPECT_TRUE(differs([](CellLook& look) { look.borders[3].color = 0xFF000000; }));
+    EXPECT_FALSE(differs([](CellLook& look) { look.borders[3].width = 7; })); // of one that is not drawn
+}
+
 TEST(DocumentLooks, EveryPartOfALookCounts) {
     RichText text;
     const RichScale scale{text, 96};

@@ -237,6 +237,13 @@ TEST(DocumentTables, MayStandInCells) {
     EXPECT_EQ(document->lastBlock().text(), "c");
 }
 
+TEST(DocumentTables, HaveSoManyColumnsAtTheMost) {
+    std::string body;
+    for (int at = 0; at < 70; ++at)
+        body += row("\\cellx" + std::to_string(1000 + 30 * at) + "\\cellx9000", "a\\cell b\\cell");
+    EXPECT_EQ(tableOf(*documentOf(body))->columns(), 64);
+}
+
 TEST(DocumentTables, OfManyRowsHaveFewColumns) {
     std::string body;
     for (int at = 0; at < 2000; ++at)
