@@ -16,9 +16,10 @@ class RtfLists {
 
     // In the table of lists.
     void beginList();
-    void
-    setLevelNumbers(int kind); // of its next level: 23 are bullets, 0 numbers, 1 to 4 roman ones and letters
-    void setLevelStart(int number); // of the same level
+    // Of its next level: 23 are bullets, 0 numbers, 1 to 4 roman ones and letters.
+    void setLevelNumbers(int kind);
+    // What the same level counts from.
+    void setLevelStart(int number);
     void setListId(int id);
     // In the table that gives the lists the numbers by which paragraphs name them.
     void setOverrideList(int id) { overrideList_ = id; }
