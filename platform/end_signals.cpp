@@ -5,6 +5,7 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -16,18 +17,18 @@ namespace {
 
 constexpr std::array Signals = {SIGTERM, SIGINT, SIGHUP};
 
-// All that the handler may touch: it can come at any moment.
-volatile std::sig_atomic_t writingEnd = -1;
-volatile std::sig_atomic_t arrived = 0;
+// All that the handler may touch: it can come at any moment, and two signals in two threads at the same one.
+std::atomic<int> writingEnd = -1;
+std::atomic<bool> arrived = false;
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<bool>::is_always_lock_free);
 
 void handle(int number) {
     const int error = errno;
-    if (arrived) {
+    if (arrived.exchange(true)) {
         std::signal(number, SIG_DFL);
         std::raise(number);
     }
-    arrived = 1;
-    if (write(static_cast<int>(writingEnd), "x", 1) < 0) {
+    if (write(writingEnd, "x", 1) < 0) {
     } // nothing more can be done here
     errno = error;
 }
@@ -43,7 +44,7 @@ struct EndSignals::Pipe {
         notifier = std::make_unique<QSocketNotifier>(ends[0], QSocketNotifier::Read);
         QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(), asked);
         writingEnd = ends[1];
-        arrived = 0;
+        arrived = false;
         for (std::size_t at = 0; at < Signals.size(); ++at)
             install(at);
     }

@@ -43,6 +43,18 @@ void take(const fs::path& from, const fs::path& to, Wanted wanted) {
     }
 }
 
+// What a later version of the program brought. Whoever wants nothing of it empties the folder and keeps it.
+void takeMissingFolders(const fs::path& from, const fs::path& to) {
+    std::error_code failed;
+    for (fs::directory_iterator entry(from, failed), end; !failed && entry != end; entry.increment(failed)) {
+        std::error_code passedOver;
+        const fs::path target = to / entry->path().filename();
+        if (entry->is_directory(passedOver) &&
+            fs::symlink_status(target, passedOver).type() == fs::file_type::not_found)
+            fillFromSharedData(entry->path(), target);
+    }
+}
+
 // No file in it, or in any folder of it, has ever been written to.
 bool isUnused(const fs::path& folder) {
     std::error_code failed;
@@ -70,6 +82,7 @@ fs::path programFolder(const ProgramFolderSources& sources) {
     if (isUnused(folder)) {
         fillFromSharedData(sources.sharedData, folder);
     } else {
+        takeMissingFolders(sources.sharedData, folder);
         take(sources.sharedData, folder, Wanted::FilesThatWereLeftEmpty);
     }
     return folder;

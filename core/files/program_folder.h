@@ -17,8 +17,8 @@ struct ProgramFolderSources {
 
 // `home` if set; else the executable's folder if it holds a file `portable`; else the user's data folder,
 // which is made and filled from the shared data as long as nothing was ever written there. Later on only
-// files of no bytes, which a full disk left behind, are replaced. Failures to make or fill it are passed
-// over.
+// folders that are missing as a whole are brought, and files of no bytes, which a full disk left behind, are
+// replaced. Failures to make or fill it are passed over.
 std::filesystem::path programFolder(const ProgramFolderSources& sources);
 
 // Copies what is missing below `to`, or has no bytes there, from `from`; replaces no other file. Errors are

@@ -11,10 +11,12 @@
 #include <QTimer>
 
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tabrova {
@@ -81,6 +83,27 @@ TEST_P(SignalsOfTheEnd, EndTheProgramAtOnceWhenTheyComeTwice) {
                   std::raise(second);
               }),
               second);
+}
+
+// A stopped program that goes on gets each waiting signal in whichever thread wakes first.
+TEST_P(SignalsOfTheEnd, EndTheProgramAlsoWhenTwoThreadsGetThemAtTheSameMoment) {
+    const int second = GetParam();
+    for (int round = 0; round < 100; ++round)
+        ASSERT_NE(endOfChild([second] {
+                      const EndSignals endSignals([] {});
+                      std::atomic<int> ready = 0;
+                      const auto raise = [&ready](int number) {
+                          ++ready;
+                          while (ready < 2) {
+                          }
+                          std::raise(number);
+                      };
+                      std::thread other(raise, SIGTERM);
+                      raise(second);
+                      other.join();
+                  }),
+                  0)
+            << "round " << round;
 }
 
 TEST_P(SignalsOfTheEnd, StayIgnoredIfTheyWere) {

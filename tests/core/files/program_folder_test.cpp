@@ -84,11 +84,32 @@ TEST_F(ProgramFolder, TheUsersFolderIsMadeWithItsParents) {
 }
 
 TEST_F(ProgramFolder, AUsersFolderInWhichSomethingStandsIsNotFilledAgain) {
+    fs::create_directories(root_ / "user" / "languages");
     fs::create_directories(root_ / "user" / "chords");
     std::ofstream(root_ / "user" / "chords" / "E major") << "022100";
     EXPECT_EQ(programFolder(sources_), root_ / "user");
     EXPECT_FALSE(fs::exists(root_ / "user" / "genmidi.txt"));
-    EXPECT_FALSE(fs::exists(root_ / "user" / "languages"));
+    EXPECT_FALSE(fs::exists(root_ / "user" / "languages" / "Deutsch"));
+}
+
+TEST_F(ProgramFolder, AFolderThatALaterVersionBringsComesAsAWhole) {
+    programFolder(sources_);
+    const fs::path lessons = root_ / "shared" / "lessons";
+    fs::create_directories(lessons / "pictures");
+    std::ofstream(lessons / "First chords.rtf") << "E-minor";
+    std::ofstream(lessons / "pictures" / "neck") << "neck";
+    std::ofstream(root_ / "shared" / "new.txt") << "new";
+    fs::create_directories(root_ / "shared" / "linked");
+    std::ofstream(root_ / "shared" / "linked" / "file") << "file";
+    fs::create_symlink(root_ / "elsewhere", root_ / "user" / "linked");
+    programFolder(sources_);
+    EXPECT_EQ(textOf(root_ / "user" / "lessons" / "First chords.rtf"), "E-minor");
+    EXPECT_EQ(textOf(root_ / "user" / "lessons" / "pictures" / "neck"), "neck");
+    EXPECT_FALSE(fs::exists(root_ / "user" / "new.txt"));
+    EXPECT_FALSE(fs::exists(root_ / "elsewhere")) << "a link in the folder's place";
+    fs::remove(root_ / "user" / "lessons" / "First chords.rtf");
+    programFolder(sources_);
+    EXPECT_FALSE(fs::exists(root_ / "user" / "lessons" / "First chords.rtf")) << "the user took it out";
 }
 
 TEST_F(ProgramFolder, AnEmptyUsersFolderIsFilled) {
