@@ -5,7 +5,7 @@
 #include "platform/end_signals.h"
 #include "platform/paths.h"
 #include "platform/session_end.h"
-#include "shell/frmMain.h"
+#include "shell/window_place.h"
 #include "sound/devices/system_midi_device.h"
 
 #include <QApplication>
@@ -50,12 +50,15 @@ bool run(int argc, char** argv, int& code) {
     tabrova::Services services = desktop.services(settings, midi, synthesizer, folder, [] { std::_Exit(1); });
     tabrova::frmMain window(services);
     const tabrova::SessionEnd session([&window] { return window.commands().documents.confirmLeaving(); });
-    window.resizeClient(1000, 700);
+    tabrova::WindowPlace place(window, settings);
+    place.restore();
     window.show();
     // Without the words that were the toolkit's.
     const tabrova::CommandLine commandLine = read(argc, argv);
     tellTerminal(commandLine);
     window.Form_Load(commandLine.document, tabrova::frmMain::Splash::AsSettingsSay);
+    place.restoreViews();
+    window.ending = [&place] { place.remember(); };
     code = QApplication::exec();
     window.endInOrder();
     window.hide();

@@ -37,6 +37,7 @@ struct Changes {
     bool tuning = false;      // of the current track
     bool instrument = false;  // of the current track, as its properties name it
     bool language = false;
+    bool recent = false;  // the list of recent documents
     bool playing = false; // playback has started or was stopped, perhaps again
     bool layout = false;  // places of the window's panels
     bool trackListOpens = false;

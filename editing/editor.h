@@ -54,6 +54,9 @@ class Editor {
     void chooseFromPalette(const Rect& highlight);
 
     void MoveCursor(Direction direction);
+    // To this column, from 0, of this staff, from 1, on the same string; the page scrolls as far as it must.
+    // What the document does not have is brought to its nearest.
+    void goTo(int staff, int columnInStaff);
     void picDocument_MouseDown(MouseButton button, int x, int y);
     // The fretboard takes and removes notes; the cursor stays and nothing sounds.
     void picFretboard_MouseDown(MouseButton button, int x, int y);

@@ -68,6 +68,19 @@ void Editor::stepStaffBack() {
     cursor_.renumberStaff(1);
 }
 
+void Editor::goTo(int staff, int columnInStaff) {
+    const int staves = document_.StaffCount;
+    const int visible = document_.VisibleStaves;
+    if (staves < 1 || visible < 1) return;
+    const Act act(parts_.acts, "goTo");
+    staff = std::clamp(staff, 1, staves);
+    if (staff <= document_.TopStaff) VScroll1_Change(staff);
+    if (staff > document_.TopStaff + visible) VScroll1_Change(staff - visible + 1);
+    cursor_.moveTo(staff, std::clamp(columnInStaff, 0, LastColumnInStaff), document_.CurrentString,
+                   SlotHeight * (staff - document_.TopStaff - 1) + CursorTop);
+    refreshdrawing();
+}
+
 void Editor::picDocument_MouseDown(MouseButton button, int x, int y) {
     if (x < CursorLeft || y < CursorTop) return;
     const Act act(parts_.acts, "picDocument_MouseDown");

@@ -52,10 +52,18 @@ BendPanel::BendPanel(QWidget* parent) : QFrame(parent) {
     picture->setGeometry(1, FirstTop, PanelWidth - 2, 2 * CellHeight);
     auto* hint = new PanelLabel("Label2", this);
     hint->setGeometry(4, FirstTop + 2 * CellHeight + 1, PanelWidth - 6, 15);
+    zoom_.emplace(*this);
     BendCursor_ = new HighlightShape("BendCursor", this);
-    BendCursor_->setGeometry(cellAt(0, 0));
+    showHighlight();
     hide();
 }
+
+void BendPanel::setZoom(int percent) {
+    zoom_->set(percent);
+    showHighlight();
+}
+
+void BendPanel::showHighlight() { BendCursor_->setGeometry(zoom_->zoomed(cellAt(row_, column_))); }
 
 void BendPanel::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
@@ -78,7 +86,7 @@ void BendPanel::keyPressEvent(QKeyEvent* event) {
     default:
         break;
     }
-    BendCursor_->setGeometry(cellAt(row_, column_));
+    showHighlight();
 }
 
 void BendPanel::paintEvent(QPaintEvent* event) {
@@ -90,12 +98,13 @@ void BendPanel::paintEvent(QPaintEvent* event) {
 void BendPanel::paintCells(QPainter& painter) const {
     QFont small = font();
     small.setPixelSize(11);
-    painter.setFont(small);
+    painter.setFont(zoom_->font(small));
     for (int row = 0; row < 2; ++row) {
         for (int column = 0; column < Columns; ++column) {
             painter.setPen(palette().color(QPalette::WindowText));
             const QString arrow = row == 0 ? QStringLiteral("↓") : QStringLiteral("↑");
-            painter.drawText(cellAt(row, column), Qt::AlignCenter, arrow + QString::fromUtf8(Sizes[column]));
+            painter.drawText(zoom_->zoomed(cellAt(row, column)), Qt::AlignCenter,
+                             arrow + QString::fromUtf8(Sizes[column]));
         }
     }
 }

@@ -3,16 +3,21 @@
 #pragma once
 
 #include "shell/highlight_shape.h"
+#include "shell/panel_zoom.h"
 
 #include <QFrame>
 
 #include <functional>
+#include <optional>
 
 namespace tabrova {
 
 class BendPanel : public QFrame {
   public:
     explicit BendPanel(QWidget* parent);
+
+    void setZoom(int percent);
+    QSize unzoomedSize() const { return zoom_->unzoomedSize(); }
 
     // Enter: the technique code at the highlight.
     std::function<void(int code)> chosen;
@@ -22,11 +27,13 @@ class BendPanel : public QFrame {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void showHighlight();
     void paintCells(QPainter& painter) const;
 
     int column_ = 0;
     int row_ = 0;
     HighlightShape* BendCursor_;
+    std::optional<PanelZoom> zoom_; // as soon as the panel has its parts
 };
 
 } // namespace tabrova

@@ -5,20 +5,38 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDropEvent>
 #include <QLayout>
+#include <QMimeData>
+#include <QUrl>
+
+#include <utility>
 
 namespace tabrova {
+
+namespace {
+
+// The one document among the dropped things; "" for anything else.
+QString droppedDocument(const QMimeData& dropped) {
+    const QList<QUrl> urls = dropped.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
+    const QString file = urls.front().toLocalFile();
+    return file.endsWith(".tr3", Qt::CaseInsensitive) ? file : QString();
+}
+
+} // namespace
 
 frmMain::frmMain(Services& services)
     : services_(services), bench_(services, this), menu_(*menuBar()),
       clock_(services.timerService, services.timers, this, [this] { commands_.playback.HiTime1_Timer(); }),
       tools_(context_, *this),
       commands_(bench_, tools_, clock_, menu_), context_{bench_, services_, bench_.words, commands_, tools_},
-      panels_(context_, menu_, table_, *this), program_(context_, menu_) {
+      panels_(context_, menu_, table_, *this), fileLists_(context_, menu_), program_(context_, menu_) {
     setObjectName("frmMain");
     setWindowTitle("Tabrova - untitled.tr3");
     showBuiltInCaptions(*this);
     connectMenus();
+    setAcceptDrops(true);
     clientArea()->installEventFilter(this);
     new PlainToolTips(this);
 }
@@ -33,10 +51,14 @@ void frmMain::connectMenus() {
     for (const CommandTable::ItemRow& row : table_.items())
         menu_.connectItem(QString::fromStdString(row.item), row.run);
     menu_.setChecked("mnuStandard", true);
+    for (std::size_t step = 0; step < ZoomSteps.size(); ++step)
+        menu_.action("mnuZoom(" + QString::number(step) + ")")
+            ->setText(QString::number(ZoomSteps[step]) + " %");
 }
 
 void frmMain::Form_Load(const QString& commandLine, Splash splash) {
     panels_.takeSurroundings();
+    fileLists_.show();
     program_.Form_Load(commandLine, splash);
 }
 
@@ -47,6 +69,11 @@ void frmMain::resizeClient(int width, int height) {
         resize(size() + QSize(width, height) - clientArea()->size());
     }
     layout()->activate();
+}
+
+void frmMain::endInOrder() {
+    if (const auto told = std::exchange(ending, nullptr)) told();
+    program_.endInOrder();
 }
 
 void frmMain::ApplyLanguagePatch(const QString& name) {
@@ -64,6 +91,25 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) panels_.takeSurroundings();
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (menu_.isEnabled("mnuFile") && !droppedDocument(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+// Whoever dropped it goes on before the question about the document comes.
+void frmMain::dropEvent(QDropEvent* event) {
+    const QString file = droppedDocument(*event->mimeData());
+    if (file.isEmpty() || !menu_.isEnabled("mnuFile")) return;
+    event->acceptProposedAction();
+    activateWindow();
+    QMetaObject::invokeMethod(
+        this,
+        [this, file] {
+            if (menu_.isEnabled("mnuFile")) commands_.documents.openFile(file);
+        },
+        Qt::QueuedConnection);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {

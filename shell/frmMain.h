@@ -2,6 +2,7 @@
 // together. What is decided is decided in the rooms below.
 #pragma once
 
+#include "shell/file_lists.h"
 #include "shell/main_menu.h"
 #include "shell/main_panels.h"
 #include "shell/playback_clock.h"
@@ -22,7 +23,9 @@ class frmMain : public QMainWindow {
     // The start of the program.
     void Form_Load(const QString& commandLine, Splash splash);
     // The steps of closing, without a question. Once.
-    void endInOrder() { program_.endInOrder(); }
+    void endInOrder();
+    // Called once, before the first of these steps.
+    std::function<void()> ending;
     // Enables or disables all that must stand still during playback.
     void ToggleMenus(bool enabled) { panels_.ToggleMenus(enabled); }
     // The File menu's caption becomes the first line of a file among the installed languages.
@@ -42,6 +45,9 @@ class frmMain : public QMainWindow {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    // A document that is dropped on the window is opened.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
@@ -56,6 +62,7 @@ class frmMain : public QMainWindow {
     ToolContext context_;
     CommandTable table_;
     MainPanels panels_;
+    FileLists fileLists_;
     ProgramCommands program_;
 };
 

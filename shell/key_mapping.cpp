@@ -79,6 +79,24 @@ int codeOfPcKey(unsigned number) { return codeOfPlace(PcKeys, number); }
 
 int codeOfMacintoshKey(unsigned number) { return codeOfPlace(MacintoshKeys, number); }
 
+QString placeItemOf(const QKeyEvent& event) {
+    struct Row {
+        int key;
+        bool withControl;
+        const char* item;
+    };
+    static constexpr Row Rows[] = {
+        {Qt::Key_Home, false, "mnuGoStaffStart"},   {Qt::Key_End, false, "mnuGoStaffEnd"},
+        {Qt::Key_Home, true, "mnuGoDocumentStart"}, {Qt::Key_End, true, "mnuGoDocumentEnd"},
+        {Qt::Key_PageUp, false, "mnuGoPageUp"},     {Qt::Key_PageDown, false, "mnuGoPageDown"},
+    };
+    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
+    for (const Row& row : Rows)
+        if (row.key == event.key() && held == (row.withControl ? Qt::ControlModifier : Qt::NoModifier))
+            return row.item;
+    return {};
+}
+
 bool isCombination(const QKeyEvent& event) {
     return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != Qt::NoModifier;
 }

@@ -4,6 +4,8 @@
 
 #include "editing/editor.h"
 
+#include <QString>
+
 class QKeyEvent;
 
 namespace tabrova {
@@ -20,6 +22,9 @@ KeyPress keyPressOf(const QKeyEvent& event);
 int codeOfPcKey(unsigned number);
 // The same by the numbers of a Macintosh keyboard, from 0 for A.
 int codeOfMacintoshKey(unsigned number);
+
+// The menu item of a key that goes to a place, such as Home; "" for all others.
+QString placeItemOf(const QKeyEvent& event);
 
 // A press together with Control, Alt or Meta: a shortcut, or nothing.
 bool isCombination(const QKeyEvent& event);

@@ -23,6 +23,8 @@ class MainMenu : public MenuState {
     QAction* action(const QString& name) const { return actions_.value(name.toLower()); }
     // The item runs `command` from now on, and is enabled.
     void connectItem(const QString& name, std::function<void()> command);
+    // One more item at the end of a menu.
+    QAction* addItem(const QString& menu, const QString& name, std::function<void()> command);
     void setEnabled(const QString& name, bool enabled);
     bool isEnabled(const QString& name) const override { return action(name)->isEnabled(); }
     bool isChecked(const QString& name) const override;

@@ -2,6 +2,7 @@
 
 #include "forms/named.h"
 #include "organisers/options/frmOptions.h"
+#include "shell/rects.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -10,9 +11,7 @@ namespace tabrova {
 
 namespace {
 
-QRect qRect(const Rect& rect) { return {rect.left, rect.top, rect.width, rect.height}; }
-
-PanelSize sizeOf(const QWidget& panel) { return {panel.width(), panel.height()}; }
+PanelSize panelSize(const QSize& size) { return {size.width(), size.height()}; }
 
 } // namespace
 
@@ -29,7 +28,10 @@ MainPanels::MainPanels(const ToolContext& context, MainMenu& menu, const Command
     bench_.acts.add(*this);
 }
 
-MainPanels::~MainPanels() { bench_.acts.remove(*this); }
+MainPanels::~MainPanels() {
+    context_.services.synthesizer.onChange(this, nullptr);
+    bench_.acts.remove(*this);
+}
 
 void MainPanels::build() {
     client_ = named(new QWidget(&window_), "clientArea");
@@ -49,11 +51,16 @@ void MainPanels::build() {
     bendPanel_ = new BendPanel(client_);
     repeatPanel_ = new RepeatPanel(client_);
     trackChooser_ = new TrackChooser(client_);
-    auto* title = named(new QLabel("Track: Untitled Track", strip_), "lblNotationTitle");
-    // The strip is white paper in every theme.
-    title->setStyleSheet("color: #555555; background: transparent");
-    title->move(16, 4);
-    title->adjustSize();
+    stripTitle_ = named(new QLabel("Track: Untitled Track", strip_), "lblNotationTitle");
+    // The strip is white paper in every theme, and its line ends below the words.
+    stripTitle_->setStyleSheet("color: #555555; background: white");
+    stopKeys_ = named(new QAction(&window_), "stopKeys");
+    stopKeys_->setShortcuts({Qt::Key_Escape, Qt::Key_Space});
+    stopKeys_->setAutoRepeat(false);
+    stopKeys_->setEnabled(false);
+    window_.addAction(stopKeys_);
+    QObject::connect(stopKeys_, &QAction::triggered, client_,
+                     [this] { menu_.action("mnuPlaybackStop")->trigger(); });
     editor_.setNoteLineColor(window_.palette().color(QPalette::Highlight).rgb());
     for (QWidget* hidden :
          {static_cast<QWidget*>(lbldebug_), static_cast<QWidget*>(fretboard_), static_cast<QWidget*>(strip_)})
@@ -71,9 +78,8 @@ void MainPanels::connectPage() {
         if (!document.isGuitarTrack(document.CurrentTrack)) context_.tools.open("frmPercussion");
     };
     page_->scrolled = [this](int staves) { editor_.VScroll1_Change(editor_.scroll().value + staves); };
-    page_->scrolledByPages = [this](int pages) {
-        editor_.VScroll1_Change(editor_.scroll().value + pages * bench_.document.VisibleStaves);
-    };
+    page_->wentTo = [this](const QString& item) { menu_.action(item)->trigger(); };
+    page_->zoomed = [this](int steps) { context_.commands.views.stepZoom(steps); };
     page_->escaped = [this] { closePanel(*noteSelector_); };
     fretboard_->mouseDown = [this](MouseButton button, int x, int y) {
         editor_.picFretboard_MouseDown(button, x, y);
@@ -81,7 +87,7 @@ void MainPanels::connectPage() {
     fretboard_->doubleClick = [this] { menu_.action("mnuChordManager")->trigger(); };
     strip_->paintObjects = [this](QPainter& painter) {
         const PageObjects& objects = editor_.page();
-        painter.fillRect(objects.NoteLine.x1, 0, objects.borderWidth, strip_->height(),
+        painter.fillRect(objects.NoteLine.x1, 0, objects.borderWidth, StripHeight,
                          QColor(objects.noteLineColor));
     };
 }
@@ -113,6 +119,15 @@ void MainPanels::connectPanels() {
     statusBar_->optionsPanelClicked = [this] {
         context_.tools.open("frmOptions", {nullptr, OptionsTab::Appearance});
     };
+    // To where the sound is mended, or the speed is set.
+    statusBar_->placePanelClicked = [this] {
+        const SynthesizerState sound = context_.services.synthesizer.state();
+        if (sound.running && !sound.trouble.isEmpty())
+            return context_.tools.open("frmOptions", {nullptr, OptionsTab::Sound});
+        context_.tools.open("frmFileProperties");
+    };
+    statusBar_->left = [this] { page_->setFocus(); };
+    context_.services.synthesizer.onChange(this, [this] { showPlace(); });
 }
 
 void MainPanels::connectToolbar() {
@@ -137,54 +152,107 @@ void MainPanels::closePanel(QWidget& panel) {
 
 void MainPanels::takeSurroundings() {
     Surroundings& around = bench_.surroundings;
-    around.clientWidth = client_->width();
-    around.clientHeight = client_->height();
-    // Whole image pixels: a screen of one and a half is served from the sheet of two.
-    around.scale = qCeil(window_.devicePixelRatioF());
+    context_.commands.views.takeClientArea(client_->width(), client_->height(), window_.devicePixelRatioF());
     around.inlayColor = quietInlayColor(window_.palette().color(QPalette::Mid).rgb());
-    around.bendPanel = sizeOf(*bendPanel_);
-    around.repeatPanel = sizeOf(*repeatPanel_);
-    around.fretPalette = sizeOf(*noteSelector_);
+    around.bendPanel = panelSize(bendPanel_->unzoomedSize());
+    around.repeatPanel = panelSize(repeatPanel_->unzoomedSize());
+    around.fretPalette = panelSize(noteSelector_->unzoomedSize());
 }
 
 void MainPanels::placePanels() {
-    const WindowLayout& layout = context_.commands.views.layout();
+    const ViewCommands& views = context_.commands.views;
+    const WindowLayout& layout = views.layout();
+    const auto placed = [&views](const Rect& place) { return qRect(views.inWindow(place)); };
+    zoomPanels();
     toolbar_->setGeometry(0, 0, client_->width(), StripTop);
-    page_->setGeometry(qRect(layout.picDocument));
-    strip_->setGeometry(qRect(layout.picStandardNotation));
+    page_->setGeometry(placed(layout.picDocument));
+    strip_->setGeometry(placed(layout.picStandardNotation));
     strip_->setVisible(layout.stripShown);
-    VScroll1_->setGeometry(qRect(layout.VScroll1));
-    fretboard_->setGeometry(qRect(layout.picFretboard));
+    VScroll1_->setGeometry(placed(layout.VScroll1));
+    fretboard_->setGeometry(placed(layout.picFretboard));
     fretboard_->setVisible(layout.fretboardShown);
-    statusBar_->setGeometry(qRect(layout.StatusBar1));
-    lbldebug_->setGeometry(qRect(layout.lbldebug));
-    lbldebug_->setVisible(context_.commands.views.statisticsShown());
-    trackChooser_->setGeometry(qRect(layout.picTrackChooser));
+    const int barTop = client_->height() - StatusBarHeight;
+    statusBar_->setGeometry(0, barTop, client_->width(), StatusBarHeight);
+    lbldebug_->setGeometry(layout.lbldebug.left + placed(layout.picDocument).width() -
+                               layout.picDocument.width,
+                           barTop + 1, layout.lbldebug.width, layout.lbldebug.height);
+    const bool statistics = views.statisticsShown();
+    lbldebug_->setVisible(statistics);
+    statusBar_->setRoomAtRight(statistics ? client_->width() - lbldebug_->x() : 0);
+    placeTrackChooser();
     // An open panel stays beside the cursor.
-    for (const Panel panel : {Panel::Bend, Panel::Repeat})
-        panelWidget(panel)->move(panelWidget(panel)->x(),
-                                 panelWidget(panel)->y() + layout.picDocument.top - pageTop_);
+    for (const Panel panel : {Panel::Bend, Panel::Repeat}) {
+        Rect& place = panelPlace(panel);
+        place.top += layout.picDocument.top - pageTop_;
+        panelWidget(panel)->move(placed(place).topLeft());
+    }
     pageTop_ = layout.picDocument.top;
+}
+
+void MainPanels::zoomPanels() {
+    constexpr QPoint TitlePlace = {16, 4};
+    const int percent = context_.commands.views.zoom();
+    const double factor = static_cast<double>(percent) / UnzoomedPercent;
+    for (SurfaceWidget* surface :
+         {strip_, static_cast<SurfaceWidget*>(page_), static_cast<SurfaceWidget*>(fretboard_)})
+        surface->setZoom(factor);
+    bendPanel_->setZoom(percent);
+    repeatPanel_->setZoom(percent);
+    noteSelector_->setZoom(percent);
+    const QFont font = zoomedFont(client_->font(), percent);
+    trackChooser_->setFont(font);
+    stripTitle_->setFont(font);
+    stripTitle_->move(TitlePlace * factor);
+    stripTitle_->adjustSize();
+}
+
+// Its lower edge keeps its distance from the window's.
+void MainPanels::placeTrackChooser() {
+    const ViewCommands& views = context_.commands.views;
+    const QRect list = qRect(views.inWindow(views.layout().picTrackChooser));
+    const Rect& unzoomed = views.layout().picTrackChooser;
+    const int gap = bench_.surroundings.clientHeight - unzoomed.bottom();
+    const int bottom = client_->height() - gap;
+    const int height = std::min(list.height(), bottom);
+    trackChooser_->setGeometry(list.left(), bottom - height, list.width(), height);
 }
 
 QWidget* MainPanels::panelWidget(Panel panel) const {
     return panel == Panel::Bend ? static_cast<QWidget*>(bendPanel_) : repeatPanel_;
 }
 
+// Light in every theme: black and white ticks stand on it.
+void MainPanels::paintRulerGround(QPainter& painter) const {
+    constexpr int DarkestGround = 128; // of 255
+    constexpr QColor Ground(0xD8, 0xD8, 0xD8);
+    if (window_.palette().color(QPalette::Window).lightness() >= DarkestGround) return;
+    const int bottom = page_->y();
+    const int top = strip_->isVisibleTo(client_) ? strip_->geometry().bottom() + 1 : StripTop;
+    painter.fillRect(0, top, client_->width(), bottom - top, Ground);
+}
+
 void MainPanels::paintRuler() {
     constexpr int TickHeight = 6;
     constexpr int TopBelowStrip = 194;
     constexpr int TopAbovePage = 24;
+    constexpr int DarkestDark = 0x60;
+    const ViewCommands& views = context_.commands.views;
     QPainter painter(client_);
+    paintRulerGround(painter);
+    const QColor dark = window_.palette().color(QPalette::Dark);
+    const QColor offBeat = dark.lightness() < DarkestDark ? QColor(0x80, 0x80, 0x80) : dark;
     const auto draw = [&](int top) {
+        const auto line = [&](int x, const QColor& color) {
+            const QRect place = qRect(views.inWindow({x, top, 1, TickHeight}));
+            painter.fillRect(place.x(), place.y(), std::max(place.width(), 1), place.height(), color);
+        };
         for (const RulerTick& tick : bench_.view.ruler()) {
-            const QColor color = tick.onBeat ? QColor(Qt::black) : window_.palette().color(QPalette::Dark);
-            painter.fillRect(tick.x, top, 1, TickHeight, color);
-            painter.fillRect(tick.whiteX, top, 1, TickHeight, Qt::white);
+            line(tick.x, tick.onBeat ? QColor(Qt::black) : offBeat);
+            line(tick.whiteX, Qt::white);
         }
     };
     draw(TopBelowStrip);
-    if (!context_.commands.views.layout().stripShown) draw(TopAbovePage);
+    if (!views.layout().stripShown) draw(TopAbovePage);
 }
 
 } // namespace tabrova

@@ -13,6 +13,7 @@
 #include "shell/track_chooser.h"
 #include "workbench/commands.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QMainWindow>
 
@@ -39,18 +40,23 @@ class MainPanels : private ActObserver {
     void showTexts(const Changes& changes);
     void showTracks(const Changes& changes);
     void openPanel(const PanelOpening& opening);
+    void showPlace();
 
     void build();
     void connectPage();
     void connectPanels();
     void connectToolbar();
     void placePanels();
+    void zoomPanels();
+    void placeTrackChooser();
+    void paintRulerGround(QPainter& painter) const;
     void mirrorScrollBar();
     // The page is held closed by playback and by an open panel.
     void enablePage();
     void closePanel(QWidget& panel);
     bool available(const QString& word) const;
     QWidget* panelWidget(Panel panel) const;
+    Rect& panelPlace(Panel panel) { return panel == Panel::Bend ? bendPlace_ : repeatPlace_; }
 
     const ToolContext& context_;
     Workbench& bench_;
@@ -59,6 +65,8 @@ class MainPanels : private ActObserver {
     const CommandTable& table_;
     QMainWindow& window_;
     int pageTop_ = 0; // as it is placed
+    Rect bendPlace_;  // in the layout, as these are
+    Rect repeatPlace_;
 
     QWidget* client_;
     Toolbar* toolbar_;
@@ -68,10 +76,12 @@ class MainPanels : private ActObserver {
     FretboardWidget* fretboard_;
     StatusBar* statusBar_;
     QLabel* lbldebug_;
+    QLabel* stripTitle_;
     NoteSelector* noteSelector_;
     BendPanel* bendPanel_;
     RepeatPanel* repeatPanel_;
     TrackChooser* trackChooser_;
+    QAction* stopKeys_; // usable while music plays
 };
 
 } // namespace tabrova

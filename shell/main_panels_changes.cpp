@@ -3,6 +3,9 @@
 #include "forms/code_page_text.h"
 #include "forms/text_edges.h"
 #include "shell/main_panels.h"
+#include "shell/rects.h"
+#include "workbench/place_line.h"
+#include "workbench/sound_words.h"
 
 #include <QSignalBlocker>
 
@@ -21,6 +24,7 @@ void MainPanels::actEnded(std::string_view, const Changes& changes) {
     show(changes);
     showTexts(changes);
     showTracks(changes);
+    showPlace();
     if (changes.pageTakesKeyboard) page_->setFocus();
     if (changes.fretPalette) noteSelector_->openAt(*changes.fretPalette);
     if (changes.panel) openPanel(*changes.panel);
@@ -31,7 +35,7 @@ void MainPanels::show(const Changes& changes) {
     if (changes.scrollBar) mirrorScrollBar();
     if (changes.strip) {
         strip_->update();
-        client_->update(0, StripTop, client_->width(), PageTopWithStrip - StripTop);
+        client_->update(0, StripTop, client_->width(), page_->y() - StripTop);
     }
     // The cursor's lines follow every move.
     if (changes.page || changes.cursor) page_->update();
@@ -47,6 +51,20 @@ void MainPanels::showTexts(const Changes& changes) {
     if (changes.title) setTitleOf(window_, shownName(texts.title));
     if (changes.statistics) lbldebug_->setText(QString::fromStdString(texts.statistics));
     if (changes.trackPanel) statusBar_->setTrackPanel(QString::fromStdString(texts.trackPanel));
+}
+
+void MainPanels::showPlace() {
+    const SynthesizerState sound = context_.services.synthesizer.state();
+    const bool silent = sound.running && !sound.trouble.isEmpty();
+    const bool loaded = context_.tools.isLoaded("frmFileProperties");
+    PlaceFacts facts;
+    if (bench_.player.playing) facts.sounding = bench_.player.soundingColumn;
+    facts.doubleTime = loaded ? bench_.player.speedBoost : bench_.document.DoubleTime;
+    facts.fileName = context_.commands.documents.fileName();
+    if (silent) facts.trouble = troubleHere(sound.trouble, bench_.words);
+    const QString line = placeLine(bench_.document, facts, bench_.words);
+    const bool explained = !facts.trouble.isEmpty() && !facts.sounding;
+    statusBar_->setPlacePanel(line, explained ? toldTrouble(sound.trouble, bench_.words) : line);
 }
 
 void MainPanels::mirrorScrollBar() {
@@ -76,7 +94,8 @@ void MainPanels::openPanel(const PanelOpening& opening) {
     bendPanel_->hide();
     repeatPanel_->hide();
     QWidget* panel = panelWidget(opening.panel);
-    panel->move(opening.place.left, opening.place.top);
+    panelPlace(opening.panel) = opening.place;
+    panel->move(qRect(context_.commands.views.inWindow(opening.place)).topLeft());
     panel->show();
     panel->raise();
     page_->setEnabled(false);
@@ -97,6 +116,7 @@ void MainPanels::ToggleMenus(bool enabled) {
                              "mnuHelp", "mnuSoundPlayAll", "mnuPlayFromHere"})
         menu_.setEnabled(name, enabled);
     statusBar_->setEnabled(enabled);
+    stopKeys_->setEnabled(!enabled);
     trackChooser_->setEnabled(enabled);
     toolbar_->setAllButStopEnabled(enabled);
     if (!enabled) return;

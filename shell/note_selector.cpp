@@ -35,8 +35,6 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedP
     setAutoFillBackground(true);
     setMouseTracking(true);
     setFixedSize(PaletteWidth, PaletteHeight);
-    shpNoteSelector_ = new HighlightShape("shpNoteSelector", this);
-    moveHighlight(ParkedPaletteHighlight);
     auto* title = new QLabel(this);
     title->setObjectName("lblToolTip2(3)");
     title->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -51,26 +49,42 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedP
     close->setFocusPolicy(Qt::NoFocus);
     close->setGeometry(PaletteWidth - 20, 2, 18, 16);
     connect(close, &QToolButton::clicked, this, [this] { closed(); });
+    zoom_.emplace(*this);
+    shpNoteSelector_ = new HighlightShape("shpNoteSelector", this);
+    shpNoteSelector_->lower();
+    moveHighlight(ParkedPaletteHighlight);
     hide();
 }
 
 void NoteSelector::openAt(const Rect& place) {
     moveHighlight(ParkedPaletteHighlight);
-    move(placeForWidget(place.left), placeForWidget(place.top));
+    place_ = place;
+    moveToPlace();
     show();
     raise();
     update();
 }
 
+void NoteSelector::setZoom(int percent) {
+    zoom_->set(percent);
+    moveHighlight(highlight_);
+    moveToPlace();
+}
+
+void NoteSelector::moveToPlace() {
+    const QRect at = zoom_->zoomed({placeForWidget(place_.left), placeForWidget(place_.top), 1, 1});
+    move(placeForWidget(at.left()), placeForWidget(at.top()));
+}
+
 void NoteSelector::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint at = event->position().toPoint();
+    const QPoint at = zoom_->unzoomed(event->position());
     moveHighlight(paletteHighlight(highlight_, at.x(), at.y()));
 }
 
 void NoteSelector::moveHighlight(const Rect& place) {
     highlight_ = place;
-    shpNoteSelector_->setGeometry(placeForWidget(place.left), placeForWidget(place.top), place.width,
-                                  place.height);
+    shpNoteSelector_->setGeometry(
+        zoom_->zoomed({placeForWidget(place.left), placeForWidget(place.top), place.width, place.height}));
 }
 
 // The palette keeps its mouse events: the page below it must not see them.
@@ -100,6 +114,8 @@ void NoteSelector::paintEvent(QPaintEvent* event) {
     QFont small = font();
     small.setPixelSize(12);
     painter.setFont(small);
+    // The places of the numbers are fixed; the letters follow.
+    painter.scale(static_cast<qreal>(width()) / PaletteWidth, static_cast<qreal>(height()) / PaletteHeight);
     painter.setPen(palette().color(QPalette::WindowText));
     DrawNoteSelector(painter);
 }

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "shell/highlight_shape.h"
+#include "shell/panel_zoom.h"
 #include "tabview/surface.h"
 
 #include <QFrame>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 class QPainter;
@@ -22,8 +24,10 @@ class NoteSelector : public QFrame {
     // The palette closes by its button.
     std::function<void()> closed;
 
-    // Shows the palette there, its highlight parked outside the cells.
+    // Shows the palette there on the page, its highlight parked outside the cells.
     void openAt(const Rect& place);
+    void setZoom(int percent);
+    QSize unzoomedSize() const { return zoom_->unzoomedSize(); }
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -35,9 +39,12 @@ class NoteSelector : public QFrame {
   private:
     void DrawNoteSelector(QPainter& surface) const;
     void moveHighlight(const Rect& place);
+    void moveToPlace();
 
     Rect highlight_;
+    Rect place_; // on the page
     HighlightShape* shpNoteSelector_;
+    std::optional<PanelZoom> zoom_; // as soon as the palette has its parts
 };
 
 } // namespace tabrova

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace tabrova {
 
 PageWidget::PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent)
@@ -32,12 +34,13 @@ void PageWidget::paintCursor(QPainter& painter) const {
 }
 
 void PageWidget::keyPressEvent(QKeyEvent* event) {
-    if (isModifierAlone(*event) || isCombination(*event)) return event->ignore();
+    if (isModifierAlone(*event)) return event->ignore();
+    const QString item = placeItemOf(*event);
+    if (item.isEmpty() && isCombination(*event)) return event->ignore();
     // A key that is held down from before the page had the keyboard belongs to what had it then.
     if (event->isAutoRepeat() && event->key() != heldKey_) return;
     heldKey_ = event->key();
-    if (event->key() == Qt::Key_PageUp) return scrolledByPages(-1);
-    if (event->key() == Qt::Key_PageDown) return scrolledByPages(1);
+    if (!item.isEmpty()) return wentTo(item);
     if (event->key() == Qt::Key_Escape) return escaped();
     const KeyPress press = keyPressOf(*event);
     keyDown(press.keyCode, press.shift);
@@ -60,13 +63,15 @@ void PageWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     doubleClick();
 }
 
-// One notch of the wheel is one staff; fine wheels add up.
+// One notch of the wheel is one staff, with Control one step of the zoom; fine wheels add up.
 void PageWidget::wheelEvent(QWheelEvent* event) {
     constexpr int Notch = 120;
+    const bool zooms = event->modifiers() & Qt::ControlModifier;
+    if (std::exchange(wheelZooms_, zooms) != zooms) wheelRest_ = 0;
     wheelRest_ += event->angleDelta().y();
-    const int staves = wheelRest_ / Notch;
-    wheelRest_ -= staves * Notch;
-    if (staves != 0) scrolled(-staves);
+    const int notches = wheelRest_ / Notch;
+    wheelRest_ -= notches * Notch;
+    if (notches != 0) zooms ? zoomed(notches) : scrolled(-notches);
     event->accept();
 }
 

@@ -16,8 +16,10 @@ class PageWidget : public SurfaceWidget {
     std::function<void(MouseButton button, int x, int y)> mouseDown;
     std::function<void()> doubleClick;
     std::function<void(int staves)> scrolled;
-    std::function<void(int pages)> scrolledByPages;
+    std::function<void(int steps)> zoomed;
     std::function<void()> escaped;
+    // A key that goes to a place: the menu item that it stands for.
+    std::function<void(const QString& item)> wentTo;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -31,6 +33,7 @@ class PageWidget : public SurfaceWidget {
 
     const PageObjects& objects_;
     int wheelRest_ = 0;
+    bool wheelZooms_ = false;
     int heldKey_ = 0; // the toolkit's number of the key that was pressed last
 };
 

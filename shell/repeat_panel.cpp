@@ -60,6 +60,7 @@ RepeatPanel::RepeatPanel(QWidget* parent) : QFrame(parent), scroller_(new Repeat
     connect(scroller_, &QScrollBar::valueChanged, this,
             [this](int value) { lblRepeatTimes_->setText(QString::number(value)); });
     scroller_->entered = [this] { chosen(scroller_->value()); };
+    zoom_.emplace(*this);
     hide();
 }
 

@@ -2,10 +2,13 @@
 // and closes.
 #pragma once
 
+#include "shell/panel_zoom.h"
+
 #include <QFrame>
 #include <QScrollBar>
 
 #include <functional>
+#include <optional>
 
 class QLabel;
 
@@ -27,11 +30,14 @@ class RepeatPanel : public QFrame {
 
     // Enter: the value, 1 to 15. It stays for the next opening.
     std::function<void(int value)> chosen;
+    void setZoom(int percent) { zoom_->set(percent); }
+    QSize unzoomedSize() const { return zoom_->unzoomedSize(); }
     RepeatScroller& scroller() { return *scroller_; }
 
   private:
     RepeatScroller* scroller_;
     QLabel* lblRepeatTimes_;
+    std::optional<PanelZoom> zoom_; // as soon as the panel has its parts
 };
 
 } // namespace tabrova

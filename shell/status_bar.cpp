@@ -1,43 +1,61 @@
 #include "shell/status_bar.h"
 
-#include "forms/elided_label.h"
-
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMouseEvent>
 
 namespace tabrova {
 
 namespace {
 
-QLabel* addPanel(const char* name, int stretch, StatusBar* bar) {
-    auto* panel = new ElidedLabel(name, Qt::ElideRight, bar);
-    panel->setCursor(Qt::PointingHandCursor);
-    static_cast<QHBoxLayout*>(bar->layout())->addWidget(panel, stretch);
-    return panel;
-}
+// The track list comes down to 16 pixels above the window's lower edge.
+constexpr QMargins Margins = {8, 7, 8, 0};
 
 } // namespace
+
+StatusPanel* StatusBar::addPanel(const char* name, int stretch, std::function<void()> StatusBar::*clicked) {
+    auto* panel = new StatusPanel(name, this);
+    panel->pressed = [this, clicked] {
+        if (this->*clicked) (this->*clicked)();
+    };
+    panel->left = [this] {
+        if (left) left();
+    };
+    static_cast<QHBoxLayout*>(layout())->addWidget(panel, stretch);
+    return panel;
+}
 
 StatusBar::StatusBar(QWidget* parent) : QFrame(parent) {
     setObjectName("StatusBar1");
     // The neck comes down behind it.
     setAutoFillBackground(true);
     auto* row = new QHBoxLayout(this);
-    // The track list comes down to 16 pixels above the window's lower edge.
-    row->setContentsMargins(8, 7, 8, 0);
+    row->setContentsMargins(Margins);
     row->setSpacing(16);
-    track_ = addPanel("StatusBar1(1)", 2, this);
-    hint_ = addPanel("StatusBar1(2)", 3, this);
+    track_ = addPanel("StatusBar1(1)", 0, &StatusBar::trackPanelClicked);
+    hint_ = addPanel("StatusBar1(2)", 0, &StatusBar::optionsPanelClicked);
+    place_ = addPanel("StatusBar1(3)", 1, &StatusBar::placePanelClicked);
+    // Alive also while all that can be pressed stands still.
+    QPalette awake = place_->palette();
+    awake.setColor(QPalette::Disabled, QPalette::WindowText,
+                   awake.color(QPalette::Active, QPalette::WindowText));
+    place_->setPalette(awake);
 }
 
-void StatusBar::setTrackPanel(const QString& text) { track_->setText(text); }
+void StatusBar::setPlacePanel(const QString& text, const QString& whole) {
+    if (place_->text() != text) place_->setText(text);
+    if (place_->toolTip() != whole) place_->setToolTip(whole);
+}
+
+void StatusBar::setRoomAtRight(int width) {
+    layout()->setContentsMargins(Margins + QMargins(0, 0, width, 0));
+}
 
 void StatusBar::mousePressEvent(QMouseEvent* event) {
-    const auto& clicked = event->position().x() < hint_->x() ? trackPanelClicked : optionsPanelClicked;
+    const double x = event->position().x();
+    const auto& clicked = x < hint_->x()    ? trackPanelClicked
+                          : x < place_->x() ? optionsPanelClicked
+                                            : placePanelClicked;
     if (clicked) clicked();
 }
-
-QString StatusBar::trackPanel() const { return track_->text(); }
 
 } // namespace tabrova

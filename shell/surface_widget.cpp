@@ -13,15 +13,20 @@ SurfaceWidget::SurfaceWidget(const QString& name, const Surface& surface, QWidge
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-QPoint SurfaceWidget::pixelAt(const QMouseEvent& event) {
-    return {qFloor(event.position().x()), qFloor(event.position().y())};
+void SurfaceWidget::setZoom(qreal zoom) {
+    zoom_ = zoom;
+    update();
+}
+
+QPoint SurfaceWidget::pixelAt(const QMouseEvent& event) const {
+    return {qFloor(event.position().x() / zoom_), qFloor(event.position().y() / zoom_)};
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const qreal ratio = devicePixelRatioF();
     painter.save();
-    if (ratio == surface_.scale()) {
+    if (qFuzzyCompare(ratio * zoom_, surface_.scale())) {
         // One image pixel is one screen pixel.
         painter.scale(1.0 / ratio, 1.0 / ratio);
         const QRectF part(QPointF(event->rect().topLeft()) * ratio, QSizeF(event->rect().size()) * ratio);
@@ -29,9 +34,11 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
         painter.drawImage(pixels.topLeft(), surface_.image(), pixels);
     } else {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(0, 0, surface_.width(), surface_.height()), surface_.image());
+        painter.drawImage(QRectF(0, 0, surface_.width() * zoom_, surface_.height() * zoom_),
+                          surface_.image());
     }
     painter.restore();
+    painter.scale(zoom_, zoom_);
     if (paintObjects) paintObjects(painter);
 }
 

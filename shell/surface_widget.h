@@ -14,16 +14,19 @@ class SurfaceWidget : public QWidget {
     SurfaceWidget(const QString& name, const Surface& surface, QWidget* parent);
 
     const Surface& surface() const { return surface_; }
+    // The screen's pixels that a logical pixel takes.
+    void setZoom(qreal zoom);
     // Draws what floats above the surface, in logical pixels.
     std::function<void(QPainter&)> paintObjects;
 
   protected:
     // The logical pixel under the mouse: on finer screens it lies on fractions of one.
-    static QPoint pixelAt(const QMouseEvent& event);
+    QPoint pixelAt(const QMouseEvent& event) const;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     const Surface& surface_;
+    qreal zoom_ = 1.0;
 };
 
 } // namespace tabrova

@@ -9,6 +9,7 @@
 #include "workbench/help_commands.h"
 #include "workbench/import_commands.h"
 #include "workbench/language_commands.h"
+#include "workbench/place_commands.h"
 #include "workbench/playback_commands.h"
 #include "workbench/structure_commands.h"
 #include "workbench/view_commands.h"
@@ -28,6 +29,7 @@ struct Commands {
     ChordEntry& chords;
     PlaybackCommands playback;
     ViewCommands views;
+    PlaceCommands places;
     StructureCommands structure;
     EntryCommands entry;
     LanguageCommands language;

@@ -11,19 +11,30 @@
 namespace tabrova {
 
 DocumentCommands::DocumentCommands(Workbench& bench, ToolOpener& tools, const MenuState& menus)
-    : bench_(bench), document_(bench.document), editor_(bench.editor), services_(bench.services),
-      tools_(tools), menus_(menus) {}
+    : recent(bench.services.settings), bench_(bench), document_(bench.document), editor_(bench.editor),
+      services_(bench.services), tools_(tools), menus_(menus) {}
 
 void DocumentCommands::registerRows(CommandTable& table) {
     table.item("mnuFileNew", [this] { mnuFileNew(); });
     table.item("mnuFileOpen", [this] { mnuFileOpen(); });
     table.item("mnuFileSave", [this] { mnuFileSave(); });
     table.item("mnuSaveAs", [this] { mnuSaveAs(); });
+    for (int place = 0; place < RecentDocuments::Most; ++place)
+        table.item("mnuRecentDocument(" + std::to_string(place) + ")", [this, place] {
+            if (place < recent.files().size()) openFile(recent.files()[place]);
+        });
+    table.item("mnuRecentClear", [this] {
+        const Act act(bench_.acts, "mnuRecentClear");
+        recent.clear();
+        bench_.acts.changes().recent = true;
+    });
     table.wordOfItem("new", "mnuFileNew");
     table.wordOfItem("open", "mnuFileOpen");
     table.wordOfItem("save", "mnuFileSave");
     table.wordOfItem("properties", "mnuFileProperties");
 }
+
+QString DocumentCommands::fileName() const { return textOf(pathOf(file_).filename()); }
 
 bool DocumentCommands::confirmLeaving() {
     const std::string question = bench_.words.saveQuestion + " " + shownNameUtf8(document_.Title) + "?";
@@ -59,13 +70,22 @@ void DocumentCommands::MakeNewDocument() {
     const Act act(bench_.acts, "MakeNewDocument");
     tools_.unload("frmFileProperties");
     editor_.MakeNewDocument();
+    file_.clear();
+}
+
+void DocumentCommands::tookFile() {
+    std::error_code failed;
+    const std::filesystem::path whole = std::filesystem::absolute(pathOf(CommonDialog1.fileName), failed);
+    file_ = textOf(whole.lexically_normal());
+    recent.add(file_);
+    bench_.acts.changes().recent = true;
 }
 
 void DocumentCommands::mnuFileSave() {
     if (!menus_.isEnabled("mnuFileSave")) return;
     if (!document_.HasFileName && !askForName(FileQuestion::Kind::Save)) return;
     const Act act(bench_.acts, "mnuFileSave");
-    saveDocument(document_, pathOf(CommonDialog1.fileName));
+    if (saveDocument(document_, pathOf(CommonDialog1.fileName))) tookFile();
 }
 
 void DocumentCommands::mnuSaveAs() {
@@ -95,9 +115,26 @@ void DocumentCommands::readNamedDocument() {
     const bool whole = readDocument(document_, file);
     bench_.acts.changes().tracks = true;
     if (!whole) return;
+    tookFile();
     editor_.refreshdrawing();
     bench_.texts.trackPanel = shownNameUtf8(document_.TrackNames.front()) + " " + bench_.words.selectedTrack;
     bench_.acts.changes().trackPanel = true;
+}
+
+void DocumentCommands::openFile(const QString& path) {
+    std::error_code failed;
+    if (!std::filesystem::is_regular_file(pathOf(path), failed)) {
+        const Act act(bench_.acts, "openFile");
+        recent.remove(path);
+        bench_.acts.changes().recent = true;
+        const ActInterlude interlude(bench_.acts);
+        services_.boxes.ask(
+            {BoxTitle, QString::fromStdString(bench_.words.fileGone) + "\n" + path, BoxIcon::Information});
+        return;
+    }
+    if (!confirmLeaving()) return;
+    CommonDialog1.fileName = path;
+    OpenDocNoConfirm(false);
 }
 
 void DocumentCommands::OpenCommandLineDocument(const QString& path) {

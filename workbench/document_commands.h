@@ -3,6 +3,7 @@
 
 #include "editing/command_table.h"
 #include "workbench/menu_state.h"
+#include "workbench/recent_documents.h"
 #include "workbench/tool_opener.h"
 #include "workbench/workbench.h"
 
@@ -17,6 +18,9 @@ class DocumentCommands {
   public:
     DocumentCommands(Workbench& bench, ToolOpener& tools, const MenuState& menus);
     void registerRows(CommandTable& table);
+    // Of the file that the document was read from or saved in, without its folder; "" for a document that has
+    // none.
+    QString fileName() const;
 
     void mnuFileNew();
     // New without the question: a new document, then its properties.
@@ -29,16 +33,21 @@ class DocumentCommands {
     // Reads without asking to save; `showDialog` asks for the file first, else the dialog's name serves.
     void OpenDocNoConfirm(bool showDialog);
     void OpenCommandLineDocument(const QString& path);
+    // Asks to save, then reads this file. One that is gone is told and leaves the list of recent documents.
+    void openFile(const QString& path);
 
     // The question before the document goes. Yes has already saved when this returns; false: the user
     // cancelled.
     bool confirmLeaving();
 
     CommonDialog CommonDialog1;
+    RecentDocuments recent;
 
   private:
     bool askForName(FileQuestion::Kind kind);
     void readNamedDocument();
+    // The document is in the dialog's file now.
+    void tookFile();
 
     Workbench& bench_;
     Document& document_;
@@ -46,6 +55,7 @@ class DocumentCommands {
     Services& services_;
     ToolOpener& tools_;
     const MenuState& menus_;
+    QString file_; // the document's; "" for none
 };
 
 } // namespace tabrova

@@ -5,6 +5,7 @@
 namespace tabrova {
 
 void HelpCommands::registerRows(CommandTable& table) {
+    table.item("mnuHelpKeys", [this] { tools_.open("frmHelp", {nullptr, HelpPage::Keys}); });
     table.item("mnuTechSupport", [this] { mnuTechSupport(); });
     table.item("mnuNewVersionCheck", [this] { mnuNewVersionCheck(); });
     table.wordOfItem("tr3", "mnuNewVersionCheck");

@@ -3,12 +3,19 @@
 
 #include "editing/command_table.h"
 #include "platform/services.h"
+#include "workbench/tool_opener.h"
 
 namespace tabrova {
 
+// The help's pages, as they are asked for.
+struct HelpPage {
+    static constexpr int Topics = 0;
+    static constexpr int Keys = 1;
+};
+
 class HelpCommands {
   public:
-    explicit HelpCommands(Services& services) : services_(services) {}
+    HelpCommands(Services& services, ToolOpener& tools) : services_(services), tools_(tools) {}
     void registerRows(CommandTable& table);
 
     void mnuTechSupport();
@@ -19,6 +26,7 @@ class HelpCommands {
     void openSettingAddress(const QString& key, const QString& otherwise);
 
     Services& services_;
+    ToolOpener& tools_;
 };
 
 } // namespace tabrova

@@ -4,6 +4,7 @@
 #include "core/files/text_lines.h"
 #include "core/language/language_file.h"
 #include "platform/paths.h"
+#include "platform/toolkit_texts.h"
 
 #include <algorithm>
 
@@ -28,6 +29,7 @@ constexpr AnswerWord AnswerWords[] = {{"box.ok", BoxAnswer::Ok},
 void LanguageCommands::LoadLanguage() {
     const Act act(bench_.acts, "LoadLanguage");
     takeWords(activeLanguageFile(bench_.services.programFolder));
+    showToolkitTextsIn(QString::fromStdString(bench_.words.toolkit));
     bench_.acts.changes().language = true;
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/document/document_operations.h"
 
+#include <algorithm>
+
 namespace tabrova {
 
 PlaybackCommands::PlaybackCommands(Workbench& bench, ToolOpener& tools, ColumnClock& clock)
@@ -23,6 +25,7 @@ void PlaybackCommands::play(PlayFrom from) {
     const Act act(bench_.acts, "StartPlayback");
     if (from == PlayFrom::Cursor) GetCurrentXPosition(bench_.document);
     bench_.document.playback = playbackStart(bench_.document, from);
+    bench_.player.soundingColumn = std::max<int>(bench_.document.playback.PlaybackPosition, 0);
     StartPlayback(*interval);
 }
 
@@ -49,9 +52,16 @@ void PlaybackCommands::tellPlaying() {
     bench_.acts.changes().playing = true;
 }
 
+// The next tick goes on behind the column that sounds.
+void PlaybackCommands::tellColumn() {
+    const Act act(bench_.acts, "HiTime1_Timer");
+    bench_.player.soundingColumn = std::max<int>(bench_.document.playback.PlaybackPosition - 1, 0);
+}
+
 void PlaybackCommands::HiTime1_Timer() {
     if (!clock_.isEnabled()) return;
-    if (playTick(bench_.document, bench_.document.playback, bench_.sound) == TickResult::Playing) return;
+    if (playTick(bench_.document, bench_.document.playback, bench_.sound) == TickResult::Playing)
+        return tellColumn();
     StopTimer();
     bench_.sound.AllNotesOff();
 }

@@ -25,6 +25,7 @@ class PlaybackCommands {
   private:
     void StartPlayback(int interval);
     void tellPlaying();
+    void tellColumn();
 
     Workbench& bench_;
     ToolOpener& tools_;

@@ -20,6 +20,7 @@ void ProgramCommands::Form_Load(const QString& commandLine, Splash splash) {
     commands.documents.MakeNewDocument();
     bench_.properties.takeStartValues();
     bench_.tracks.showChosen();
+    commands.views.restoreZoom();
     commands.views.windowIsLoaded();
     menus_.setChecked("mnuViewNotation", true);
     commands.views.mnuViewNotation();

@@ -1,5 +1,8 @@
 #include "workbench/view_commands.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace tabrova {
 
 ViewCommands::ViewCommands(Workbench& bench, MenuState& menus) : bench_(bench), menus_(menus) {
@@ -10,6 +13,10 @@ void ViewCommands::registerRows(CommandTable& table) {
     table.item("mnuViewNotation", [this] { mnuViewNotation(); });
     table.item("mnuVirtualFretboard", [this] { mnuVirtualFretboard(); });
     table.item("mnuViewRefresh", [this] { bench_.editor.refreshdrawing(); });
+    for (std::size_t step = 0; step < ZoomSteps.size(); ++step)
+        table.item("mnuZoom(" + std::to_string(step) + ")", [this, step] { setZoom(ZoomSteps[step]); });
+    table.item("mnuZoomIn", [this] { stepZoom(1); });
+    table.item("mnuZoomOut", [this] { stepZoom(-1); });
 }
 
 void ViewCommands::Form_Resize() {
@@ -25,6 +32,49 @@ void ViewCommands::Form_Resize() {
     view.picStandardNotation.resize(layout_.picStandardNotation.width, StripHeight);
     view.picFretboard.resize(layout_.picFretboard.width, layout_.picFretboard.height);
     bench_.editor.pageResized();
+}
+
+void ViewCommands::takeClientArea(int width, int height, double pixelRatio) {
+    clientWidth_ = width;
+    clientHeight_ = height;
+    pixelRatio_ = pixelRatio;
+    takeZoom();
+}
+
+void ViewCommands::takeZoom() {
+    if (clientWidth_ < 1) return;
+    Surroundings& around = bench_.surroundings;
+    around.clientWidth = unzoomedWidth(clientWidth_, zoom_);
+    around.clientHeight = unzoomedHeight(clientHeight_, zoom_);
+    around.scale = surfaceScale(pixelRatio_, zoom_);
+}
+
+void ViewCommands::setZoom(int percent) {
+    showZoom(percent);
+    bench_.services.settings.SaveSetting("Options", "Zoom", QString::number(zoom_));
+}
+
+void ViewCommands::restoreZoom() {
+    const QString stored = bench_.services.settings.GetSetting("Options", "Zoom", {});
+    showZoom(stored.isEmpty() ? firstZoom_ : std::clamp(stored.toInt(), ZoomSteps.front(), ZoomSteps.back()));
+}
+
+void ViewCommands::showZoom(int percent) {
+    zoom_ =
+        *std::ranges::min_element(ZoomSteps, {}, [percent](int step) { return std::abs(step - percent); });
+    for (std::size_t step = 0; step < ZoomSteps.size(); ++step)
+        menus_.setChecked("mnuZoom(" + QString::number(step) + ")", ZoomSteps[step] == zoom_);
+    takeZoom();
+    // A window that is too narrow for this zoom shows the narrowest page.
+    if (bench_.surroundings.clientWidth <= NarrowestFollowedWidth)
+        layout_.picDocument.width = NarrowestFollowedWidth - ScrollBarWidth;
+    Form_Resize();
+}
+
+void ViewCommands::stepZoom(int steps) {
+    const auto at = std::ranges::find(ZoomSteps, zoom_) - ZoomSteps.begin();
+    setZoom(ZoomSteps[static_cast<std::size_t>(
+        std::clamp<std::ptrdiff_t>(at + steps, 0, std::ssize(ZoomSteps) - 1))]);
 }
 
 void ViewCommands::mnuViewNotation() {

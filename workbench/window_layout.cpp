@@ -1,6 +1,7 @@
 #include "workbench/window_layout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tabrova {
 
@@ -40,6 +41,39 @@ WindowLayout layOutWindow(WindowLayout layout, int clientWidth, int clientHeight
     layout.picTrackChooser.height = std::clamp(clientHeight - TrackChooserGap, 1, TrackChooserHeight);
     layout.picTrackChooser.top = clientHeight - layout.picTrackChooser.height - TrackChooserGap;
     return layout;
+}
+
+namespace {
+
+constexpr int BarHeights = StripTop + StatusBarHeight;
+constexpr int LargestSurfaceScale = 4;
+
+int scaled(int length, int percent) {
+    return static_cast<int>(std::lround(static_cast<double>(length) * percent / UnzoomedPercent));
+}
+
+// The largest length that is not longer than this one when it is zoomed.
+int unzoomed(int length, int percent) {
+    return static_cast<int>(static_cast<std::int64_t>(length) * UnzoomedPercent / percent);
+}
+
+} // namespace
+
+Rect zoomed(const Rect& place, int percent) {
+    if (percent == UnzoomedPercent) return place;
+    const int left = scaled(place.left, percent);
+    const int top = scaled(place.top - StripTop, percent) + StripTop;
+    return {left, top, scaled(place.right(), percent) - left,
+            scaled(place.bottom() - StripTop, percent) + StripTop - top};
+}
+
+int unzoomedWidth(int width, int percent) { return unzoomed(width, percent); }
+
+int unzoomedHeight(int height, int percent) { return unzoomed(height - BarHeights, percent) + BarHeights; }
+
+int surfaceScale(double pixelRatio, int percent) {
+    const double wanted = std::ceil(pixelRatio * percent / UnzoomedPercent - 0.001);
+    return std::clamp(static_cast<int>(wanted), 1, LargestSurfaceScale);
 }
 
 WindowLayout withStrip(WindowLayout layout, bool shown) {

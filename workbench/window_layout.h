@@ -4,6 +4,8 @@
 #include "tabview/fretboard_layout.h"
 #include "tabview/page_geometry.h"
 
+#include <array>
+
 namespace tabrova {
 
 constexpr int NarrowestFollowedWidth = 783; // up to this width the page keeps its own
@@ -13,6 +15,19 @@ constexpr int StripTop = 24;
 constexpr int ScrollBarWidth = 16;
 constexpr int StatusBarHeight = 24;
 constexpr int TrackChooserHeight = 200;
+
+// The zooms, in percent.
+constexpr int UnzoomedPercent = 100;
+inline constexpr std::array ZoomSteps = {UnzoomedPercent, 125, 150, 200};
+
+// The zoom takes everything between toolbar and status bar; these two keep their heights.
+// The place in the window of what has this one at a zoom of 100 percent.
+Rect zoomed(const Rect& place, int percent);
+// Width and height of the client area as the window-size rules see them.
+int unzoomedWidth(int width, int percent);
+int unzoomedHeight(int height, int percent);
+// Image pixels a logical pixel, 1 to 4, for a screen of this ratio.
+int surfaceScale(double pixelRatio, int percent);
 
 struct WindowLayout {
     Rect picDocument = {0, PageTopWithoutStrip, NarrowestFollowedWidth - ScrollBarWidth, 300};

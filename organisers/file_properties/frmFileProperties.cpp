@@ -5,6 +5,7 @@
 #include "forms/named.h"
 #include "organisers/file_properties/notes_box.h"
 #include "organisers/file_properties/notes_text.h"
+#include "workbench/place_line.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -36,6 +37,10 @@ void showName(QLineEdit& box, const QString& name) {
     box.setCursorPosition(0);
 }
 
+QString quartersText(int columnsAMinute) {
+    return QStringLiteral("\u2669 = ") + quarterNotes(columnsAMinute);
+}
+
 } // namespace
 
 frmFileProperties::frmFileProperties(const ToolContext& context, QWidget* parent)
@@ -64,8 +69,12 @@ frmFileProperties::frmFileProperties(const ToolContext& context, QWidget* parent
     setFirstFocus(sldSpeed_);
     connect(sldSpeed_, &QSlider::valueChanged, spnSpeed_, &QSpinBox::setValue);
     connect(spnSpeed_, &QSpinBox::valueChanged, sldSpeed_, &QSlider::setValue);
-    connect(chkSpeedBoost_, &QCheckBox::toggled, this,
-            [this](bool checked) { context_.bench.player.speedBoost = checked; });
+    connect(spnSpeed_, &QSpinBox::valueChanged, this, [this] { showQuarters(); });
+    connect(chkSpeedBoost_, &QCheckBox::toggled, this, [this](bool checked) {
+        context_.bench.player.speedBoost = checked;
+        showQuarters();
+    });
+    showQuarters();
     connect(Command1_, &QPushButton::clicked, this, [this] { close(); });
 }
 
@@ -73,25 +82,33 @@ void frmFileProperties::build() {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(16, 12, 16, 14);
     grid->setVerticalSpacing(8);
-    grid->addWidget(new Logo(this), 0, 0, 1, 4);
+    grid->addWidget(new Logo(this), 0, 0, 1, 5);
     grid->addWidget(labelOf(txtTitle_, "Label1", this), 1, 0);
-    grid->addWidget(txtTitle_, 1, 1, 1, 3);
+    grid->addWidget(txtTitle_, 1, 1, 1, 4);
     grid->addWidget(labelOf(txtAuthor_, "Label2", this), 2, 0);
-    grid->addWidget(txtAuthor_, 2, 1, 1, 3);
+    grid->addWidget(txtAuthor_, 2, 1, 1, 4);
     grid->addWidget(labelOf(spnSpeed_, "Label3", this), 3, 0);
     grid->addWidget(sldSpeed_, 3, 1);
     grid->addWidget(spnSpeed_, 3, 2);
     grid->addWidget(named(new QLabel(this), "Label4"), 3, 3);
-    grid->addWidget(chkSpeedBoost_, 4, 1, 1, 3);
+    lblQuarters_ = named(new QLabel(this), "lblQuarters");
+    lblQuarters_->setMinimumWidth(fontMetrics().horizontalAdvance(quartersText(2 * FastestSpeed)));
+    grid->addWidget(lblQuarters_, 3, 4);
+    grid->addWidget(chkSpeedBoost_, 4, 1, 1, 4);
     grid->addWidget(labelOf(txtNotes_, "Label5", this), 5, 0, Qt::AlignTop);
-    grid->addWidget(txtNotes_, 5, 1, 1, 3);
-    grid->addWidget(chkReverb_, 6, 1, 1, 3);
+    grid->addWidget(txtNotes_, 5, 1, 1, 4);
+    grid->addWidget(chkReverb_, 6, 1, 1, 4);
     grid->setRowMinimumHeight(7, 6);
-    grid->addWidget(Command1_, 8, 0, 1, 4, Qt::AlignRight);
+    grid->addWidget(Command1_, 8, 0, 1, 5, Qt::AlignRight);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(5, 1);
     grid->setHorizontalSpacing(10);
     sldSpeed_->setMinimumWidth(150);
+}
+
+// As it is played: twice as fast with the boost.
+void frmFileProperties::showQuarters() {
+    lblQuarters_->setText(quartersText(spnSpeed_->value() * (chkSpeedBoost_->isChecked() ? 2 : 1)));
 }
 
 void frmFileProperties::Form_Load() {

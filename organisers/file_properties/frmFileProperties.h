@@ -6,6 +6,7 @@
 #include "workbench/tool_window.h"
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QSlider;
@@ -30,12 +31,14 @@ class frmFileProperties : public ToolWindow {
 
   private:
     void build();
+    void showQuarters();
 
     QLineEdit* txtTitle_;
     QLineEdit* txtAuthor_;
     QSlider* sldSpeed_;
     QSpinBox* spnSpeed_;
     QCheckBox* chkSpeedBoost_;
+    QLabel* lblQuarters_; // the quarter notes of a minute
     NotesBox* txtNotes_;
     QCheckBox* chkReverb_;
     QPushButton* Command1_;

@@ -3,10 +3,14 @@
 #include "forms/logo.h"
 #include "forms/named.h"
 #include "organisers/help/help_topics.h"
+#include "organisers/help/key_rows.h"
 #include "organisers/help/topic_list.h"
 
 #include <QFrame>
+#include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,6 +26,7 @@ constexpr char Question[] = "How do I...";
 constexpr char QuestionStart[] = "How do I ";
 constexpr int SheetMargin = 18; // pixels
 constexpr int LeastTextWidth = 440;
+constexpr int KeysHeight = 560;
 constexpr double HeadingSize = 1.35; // of the window's letters
 
 QStringList questions() {
@@ -63,10 +68,16 @@ frmHelp::frmHelp(const ToolContext& context, QWidget* parent) : ToolWindow("frmH
     auto* column = new QVBoxLayout(this);
     column->addWidget(new Logo(this));
     column->addWidget(Label1);
-    column->addWidget(lstTopics_);
+    cmdKeys_ = named(new QPushButton(this), "cmdKeys");
+    cmdKeys_->setText(QString::fromStdString(context.words.keys));
+    auto* row = new QHBoxLayout;
+    row->addWidget(lstTopics_, 1);
+    row->addWidget(cmdKeys_);
+    column->addLayout(row);
     column->addSpacing(6);
     column->addWidget(buildSheet(), 1);
-    lstTopics_->chosen = [this](int row) { showTopic(row); };
+    lstTopics_->chosen = [this](int topic) { showTopic(topic); };
+    connect(cmdKeys_, &QPushButton::clicked, this, [this] { showKeys(); });
     setFirstFocus(lstTopics_);
     resize(560, sizeHint().height());
 }
@@ -88,11 +99,21 @@ QWidget* frmHelp::buildSheet() {
         answers.append(topic.answer);
     lblHelp_->setMinimumHeight(heightOfLongest(*lblHelp_, answers));
     lblHelp_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    lstKeys_ = named(new QTreeWidget(picTracks), "lstKeys");
+    lstKeys_->setColumnCount(2);
+    lstKeys_->setRootIsDecorated(false);
+    lstKeys_->setHeaderHidden(true);
+    lstKeys_->setFrameShape(QFrame::NoFrame);
+    lstKeys_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    lstKeys_->setTextElideMode(Qt::ElideNone);
+    lstKeys_->setTabKeyNavigation(false);
+    lstKeys_->hide();
     auto* column = new QVBoxLayout(picTracks);
     column->setContentsMargins(SheetMargin, SheetMargin, SheetMargin, SheetMargin);
     column->setSpacing(SheetMargin / 2);
     column->addWidget(lblTitle_);
     column->addWidget(lblHelp_, 1);
+    column->addWidget(lstKeys_, 1);
     return picTracks;
 }
 
@@ -100,6 +121,39 @@ void frmHelp::showTopic(int row) {
     const HelpTopic& topic = helpTopics()[static_cast<std::size_t>(row)];
     lblHelp_->setText(topic.answer);
     lblTitle_->setText(QString(QuestionStart) + topic.question);
+    lblHelp_->show();
+    lstKeys_->hide();
+}
+
+void frmHelp::Form_Opened(const ToolOpener::Opening& opening) {
+    cmdKeys_->setText(QString::fromStdString(context_.words.keys));
+    if (opening.tab == HelpPage::Keys) showKeys();
+}
+
+void frmHelp::showKeys() {
+    fillKeys();
+    lblTitle_->setText(QString::fromStdString(context_.words.keys).remove('&'));
+    lblHelp_->hide();
+    lstKeys_->setAccessibleName(lblTitle_->text());
+    lstKeys_->show();
+    lstKeys_->setFocus();
+    resize(width(), std::max(height(), KeysHeight));
+}
+
+// In the words of the moment: menus and toolbar change with the language.
+void frmHelp::fillKeys() {
+    lstKeys_->clear();
+    if (!parentWidget()) return;
+    for (const KeyRow& row : keyRows(*parentWidget(), context_.words)) {
+        auto* item = new QTreeWidgetItem(lstKeys_, {row.name, row.keys});
+        if (!row.keys.isEmpty()) continue;
+        QFont bold = lstKeys_->font();
+        bold.setBold(true);
+        item->setFont(0, bold);
+        item->setFirstColumnSpanned(true);
+        item->setFlags(Qt::ItemIsEnabled);
+    }
+    if (lstKeys_->topLevelItemCount() > 1) lstKeys_->setCurrentItem(lstKeys_->topLevelItem(1));
 }
 
 } // namespace tabrova

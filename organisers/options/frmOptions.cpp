@@ -5,6 +5,7 @@
 #include "forms/plain_tool_tips.h"
 #include "platform/paths.h"
 #include "sound/pitch.h"
+#include "workbench/sound_words.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
@@ -26,7 +27,7 @@ constexpr std::array TestFrets = {0, 0, 1, 2, 2, 0}; // E major, string 0 to 5
 
 } // namespace
 
-frmOptions::~frmOptions() { services().synthesizer.onChange(nullptr); }
+frmOptions::~frmOptions() { services().synthesizer.onChange(this, nullptr); }
 
 void frmOptions::Form_Load() {
     LoadLanguage();
@@ -111,7 +112,7 @@ void frmOptions::connectSound() {
         });
     connect(cmdSoundBank_, &QPushButton::clicked, this, [this] { chooseBank(); });
     connect(cmdTestSound_, &QPushButton::clicked, this, [this] { testSound(); });
-    services().synthesizer.onChange([this] { showSynthesizer(); });
+    services().synthesizer.onChange(this, [this] { showSynthesizer(); });
 }
 
 void frmOptions::connectAppearance() {
@@ -137,7 +138,7 @@ void frmOptions::lstColors_Click() {
 
 void frmOptions::chooseBank() {
     const auto file =
-        services().files.choose({FileQuestion::Kind::Open, "Sound Banks|*.sf2;*.sf3", "sf2", {}});
+        services().files.choose({FileQuestion::Kind::Open, soundBankFilter(context_.words), "sf2", {}});
     if (!file) return;
     services().settings.SaveSetting(Section, SoundBank, *file);
     services().synthesizer.useBank(*file);
@@ -157,7 +158,7 @@ void frmOptions::showSynthesizer() {
     lblSoundBank_->setText(state.bank.isEmpty() ? nothing : QFileInfo(state.bank).fileName());
     lblSoundBank_->setToolTip(state.bank);
     lblAudioOutput_->setText(state.output.isEmpty() ? nothing : state.output);
-    lblSoundTrouble_->setText(state.trouble);
+    lblSoundTrouble_->setText(toldTrouble(state.trouble, context_.words));
     lblSoundTrouble_->setVisible(state.running && !state.trouble.isEmpty());
 }
 

@@ -1,6 +1,7 @@
 #include "sound/devices/fluid_engine.h"
 
 #include "platform/paths.h"
+#include "platform/synthesizer.h"
 #include "sound/devices/quiet_libraries.h"
 
 #include <algorithm>
@@ -84,12 +85,9 @@ QString FluidEngine::loadBank(const SoundBankPlaces& places) {
         bankFile_ = bank;
         break;
     }
-    if (bankId_ == FLUID_FAILED)
-        return "No sound bank was found, so nothing can be heard. Install one (on Debian the package "
-               "timgm6mb-soundfont or fluid-soundfont-gm) or choose an SF2 or SF3 file. ";
+    if (bankId_ == FLUID_FAILED) return QString(sound_trouble::NoBank) + ' ';
     if (!places.setting.empty() && bankFile_ != places.setting)
-        return textOf(places.setting.filename()) +
-               " is no sound bank that can be read; another one is in use. ";
+        return textOf(places.setting.filename()) + ' ' + sound_trouble::BankUnreadable + ' ';
     return {};
 }
 
@@ -105,9 +103,7 @@ QString FluidEngine::openOutput() {
         outputName_ = output.name;
         return {};
     }
-    return "No audio output could be opened, so nothing can be heard. Connect a sound card, or start a sound "
-           "server (on Debian the package pipewire-pulse or pulseaudio), then choose the output device "
-           "again. ";
+    return QString(sound_trouble::NoOutput) + ' ';
 }
 
 void FluidEngine::closeOutput() {

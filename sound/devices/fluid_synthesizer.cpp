@@ -16,10 +16,6 @@ using Clock = std::chrono::steady_clock;
 constexpr int HighestData = 127;
 constexpr int StatusProgram = 0xC0;
 constexpr std::chrono::milliseconds WatchInterval(500);
-constexpr char NoAnswer[] =
-    "The sound server does not answer, so nothing can be heard. It sounds as soon as the "
-    "server answers again; if it does not, restart the sound server (on Debian "
-    "pipewire-pulse, pulseaudio or jackd).";
 
 } // namespace
 
@@ -107,7 +103,7 @@ SynthesizerState FluidSynthesizer::state() const {
     const std::lock_guard lock(shared_->mutex);
     SynthesizerState told = shared_->state;
     if (told.loading && shared_->waiting && Clock::now() - *shared_->waiting > HangTime)
-        told.trouble = NoAnswer;
+        told.trouble = sound_trouble::NoAnswer;
     return told;
 }
 

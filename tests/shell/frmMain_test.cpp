@@ -55,6 +55,8 @@ TEST_F(MainWindow, EveryItemHasItsCommandAndOneWithoutIsDisabled) {
     int items = 0;
     for (const QAction* action : window.menuBar()->findChildren<QAction*>()) {
         if (action->isSeparator() || action->menu() || action->objectName().isEmpty()) continue;
+        // A list of recent documents that is shorter hides the rest.
+        if (!action->isVisible()) continue;
         EXPECT_TRUE(action->isEnabled()) << action->objectName().toStdString();
         ++items;
     }

@@ -205,38 +205,46 @@ TEST_F(Repeats, EnterChoosesTheNumber) {
     EXPECT_EQ(values, (std::vector<int>{1, 2}));
 }
 
-TEST(StatusPanels, ShareTheBarTwoToThree) {
+TEST(StatusPanels, TakeTheRoomOfTheirTextsAndLeaveTheThirdTheRest) {
     StatusBar bar(nullptr);
     const auto& row = *qobject_cast<QHBoxLayout*>(bar.layout());
     EXPECT_EQ(margins(row).toStdString(), "8 7 8 0");
     EXPECT_EQ(row.spacing(), 16);
-    EXPECT_EQ(text(described(row)), "StatusBar1(1) stretch 2\nStatusBar1(2) stretch 3\n");
+    EXPECT_EQ(text(described(row)), "StatusBar1(1) stretch 0\nStatusBar1(2) stretch 0\nStatusBar1(3) stretch 1\n");
     EXPECT_TRUE(bar.autoFillBackground());
-    for (const char* name : {"StatusBar1(1)", "StatusBar1(2)"}) {
+    for (const char* name : {"StatusBar1(1)", "StatusBar1(2)", "StatusBar1(3)"}) {
         const auto& panel = in<QLabel>(bar, name);
         EXPECT_EQ(panel.textFormat(), Qt::PlainText);
         EXPECT_EQ(panel.cursor().shape(), Qt::PointingHandCursor);
-        EXPECT_EQ(panel.minimumWidth(), 0);
-        EXPECT_EQ(panel.sizePolicy().horizontalPolicy(), QSizePolicy::Ignored);
+        EXPECT_EQ(panel.minimumSizeHint().width(), 0);
+        EXPECT_EQ(panel.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+        EXPECT_EQ(panel.focusPolicy(), Qt::TabFocus);
     }
 }
 
-TEST(StatusPanels, AClickLeftOfTheSecondIsOneOnTheFirst) {
+TEST(StatusPanels, AClickBetweenThemCountsForTheOneBeforeIt) {
     StatusBar bar(nullptr);
     QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(5, 5)); // nobody listens
-    int track = 0, options = 0;
+    int track = 0, options = 0, place = 0;
     bar.trackPanelClicked = [&track] { ++track; };
     bar.optionsPanelClicked = [&options] { ++options; };
-    bar.resize(500, 24);
+    bar.placePanelClicked = [&place] { ++place; };
+    bar.setTrackPanel("Untitled Track selected");
+    in<QLabel>(bar, "StatusBar1(2)").setText("Click here for the options");
+    bar.resize(700, 24);
     bar.show();
-    const int second = in(bar, "StatusBar1(2)").x();
-    ASSERT_EQ(second, 8 + (500 - 32) * 2 / 5 + 16);
+    const int second = in(bar, "StatusBar1(2)").x(), third = in(bar, "StatusBar1(3)").x();
+    ASSERT_EQ(second, 8 + in(bar, "StatusBar1(1)").sizeHint().width() + 16);
+    ASSERT_EQ(third, second + in(bar, "StatusBar1(2)").sizeHint().width() + 16);
     for (const int x : {0, second - 1})
         QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(x, 12));
     EXPECT_EQ(track, 2);
-    for (const int x : {second, 499})
+    for (const int x : {second, third - 1})
         QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(x, 12));
     EXPECT_EQ(options, 2);
+    for (const int x : {third, 699})
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(x, 12));
+    EXPECT_EQ(place, 2);
     EXPECT_EQ(track, 2);
 }
 

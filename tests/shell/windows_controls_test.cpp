@@ -43,20 +43,21 @@ TEST_F(Windows, OfTheDocumentsProperties) {
     EXPECT_EQ(grid().verticalSpacing(), 8);
     EXPECT_EQ(grid().horizontalSpacing(), 10);
     EXPECT_EQ(grid().rowMinimumHeight(7), 6);
-    EXPECT_EQ(text(described(grid())), "imgLogo 0,0 1x4\n"
+    EXPECT_EQ(text(described(grid())), "imgLogo 0,0 1x5\n"
                                        "Label1 1,0\n"
-                                       "txtTitle 1,1 1x3\n"
+                                       "txtTitle 1,1 1x4\n"
                                        "Label2 2,0\n"
-                                       "txtAuthor 2,1 1x3\n"
+                                       "txtAuthor 2,1 1x4\n"
                                        "Label3 3,0\n"
                                        "sldSpeed 3,1\n"
                                        "spnSpeed 3,2\n"
                                        "Label4 3,3\n"
-                                       "chkSpeedBoost 4,1 1x3\n"
+                                       "lblQuarters 3,4\n"
+                                       "chkSpeedBoost 4,1 1x4\n"
                                        "Label5 5,0 aligned 32\n"
-                                       "txtNotes 5,1 1x3\n"
-                                       "chkReverb 6,1 1x3\n"
-                                       "Command1 8,0 1x4 aligned 2\n"
+                                       "txtNotes 5,1 1x4\n"
+                                       "chkReverb 6,1 1x4\n"
+                                       "Command1 8,0 1x5 aligned 2\n"
                                        "row 5 stretch 1\n"
                                        "column 1 stretch 1\n");
     for (const auto& [label, control] : {std::pair{"Label1", "txtTitle"},

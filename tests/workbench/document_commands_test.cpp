@@ -136,7 +136,11 @@ TEST_F(DocumentSteps, RegisterTheirItems) {
     std::vector<std::string> items;
     for (const CommandTable::ItemRow& row : table.items())
         items.push_back(row.item);
-    EXPECT_EQ(items, (std::vector<std::string>{"mnuFileNew", "mnuFileOpen", "mnuFileSave", "mnuSaveAs"}));
+    std::vector<std::string> expected = {"mnuFileNew", "mnuFileOpen", "mnuFileSave", "mnuSaveAs"};
+    for (int place = 0; place < 10; ++place)
+        expected.push_back("mnuRecentDocument(" + std::to_string(place) + ")");
+    expected.emplace_back("mnuRecentClear");
+    EXPECT_EQ(items, expected);
     table.items()[3].run();
     EXPECT_EQ(files.take().first().question.kind, FileQuestion::Kind::Save);
     table.items()[2].run();

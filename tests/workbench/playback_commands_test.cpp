@@ -50,6 +50,7 @@ TEST_F(PlaybackSteps, PlayFromHereBringsTheCursorsColumnUpToDate) {
     commands.playback.play(PlayFrom::Cursor);
     EXPECT_EQ(document().CurrentColumn, 37);
     EXPECT_EQ(document().playback.PlaybackPosition, 37);
+    EXPECT_EQ(bench.player.soundingColumn, 37) << "before the first tick";
     document().ColumnInStaff = 6;
     commands.playback.play(PlayFrom::Start);
     EXPECT_EQ(document().CurrentColumn, 37);
@@ -77,7 +78,12 @@ TEST_F(PlaybackSteps, ATickPlaysAColumnAndTheLastOneStopsAndSilences) {
     commands.playback.HiTime1_Timer();
     EXPECT_FALSE(midi.take().empty());
     EXPECT_EQ(document().playback.PlaybackPosition, 1);
-    EXPECT_EQ(take(), Log{});
+    EXPECT_EQ(bench.player.soundingColumn, 0);
+    EXPECT_EQ(take(), Log{"act HiTime1_Timer"});
+    commands.playback.HiTime1_Timer();
+    EXPECT_EQ(bench.player.soundingColumn, 1);
+    EXPECT_EQ(watcher.last, Changes()) << "nothing of the page";
+    take();
     document().playback.PlaybackPosition = document().lastColumn() + 1;
     commands.playback.HiTime1_Timer();
     EXPECT_EQ(notesEnded(), 9);

@@ -11,6 +11,7 @@ class ViewSteps : public ToolBench {
         commands.views.Form_Resize();
         log.clear();
     }
+    ViewCommands& views = commands.views;
     const WindowLayout& layout() { return commands.views.layout(); }
     void setStrip(bool shown) {
         menus.setChecked("mnuViewNotation", shown);
@@ -99,10 +100,53 @@ TEST_F(ViewSteps, DebugModeIsWrittenAtOnce) {
 TEST_F(ViewSteps, RefreshRedraws) {
     CommandTable table;
     commands.views.registerRows(table);
-    ASSERT_EQ(table.items().size(), 3u);
+    ASSERT_EQ(table.items().size(), 9u);
     EXPECT_EQ(table.items()[2].item, "mnuViewRefresh");
     table.items()[2].run();
     EXPECT_EQ(watcher.last.redraws, 1);
+}
+
+TEST_F(ViewSteps, TheZoomIsRememberedCheckedAndLaidOut) {
+    views.takeClientArea(1600, 848, 1.0);
+    views.windowIsLoaded();
+    views.setZoom(200);
+    EXPECT_EQ(views.zoom(), 200);
+    EXPECT_EQ(bench.surroundings.clientWidth, 800);
+    EXPECT_EQ(bench.surroundings.clientHeight, 448);
+    EXPECT_EQ(bench.view.picDocument.scale(), 2);
+    EXPECT_EQ(layout().picDocument.width, 784);
+    EXPECT_TRUE(watcher.last.layout);
+    EXPECT_EQ(services.settings.GetSetting("Options", "Zoom", ""), "200");
+    EXPECT_EQ(menus.checked, (std::set<QString>{"mnuZoom(3)"}));
+    views.stepZoom(1);
+    EXPECT_EQ(views.zoom(), 200);
+    views.stepZoom(-1);
+    EXPECT_EQ(views.zoom(), 150);
+    views.stepZoom(-9);
+    EXPECT_EQ(views.zoom(), 100);
+    EXPECT_EQ(bench.surroundings.clientWidth, 1600);
+    EXPECT_EQ(menus.checked, (std::set<QString>{"mnuZoom(0)"}));
+}
+
+TEST_F(ViewSteps, AWindowTooNarrowForTheZoomShowsTheNarrowestPage) {
+    views.takeClientArea(1400, 848, 1.0);
+    views.windowIsLoaded();
+    views.setZoom(150);
+    EXPECT_EQ(layout().picDocument.width, 933 - 16);
+    views.setZoom(200);
+    EXPECT_EQ(layout().picDocument.width, 767);
+    EXPECT_EQ(layout().VScroll1.left, 767);
+}
+
+TEST_F(ViewSteps, TheRememberedZoomIsTheNearestThatThereIs) {
+    for (const auto& [stored, zoom] :
+         {std::pair{"150", 150}, {"140", 150}, {"1000", 200}, {"-1", 100}, {"none", 100}, {"", 125}}) {
+        services.settings.SaveSetting("Options", "Zoom", stored);
+        views.setFirstZoom(125);
+        views.restoreZoom();
+        EXPECT_EQ(views.zoom(), zoom) << stored;
+        EXPECT_EQ(services.settings.GetSetting("Options", "Zoom", ""), stored);
+    }
 }
 
 } // namespace

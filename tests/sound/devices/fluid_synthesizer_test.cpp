@@ -77,7 +77,7 @@ TEST_F(Synthesizers, TakeAnotherBankWhileTheyRun) {
     fs::copy_file(banks.front(), copy);
     FluidSynthesizer synthesizer(systemPlaces());
     int changes = 0;
-    synthesizer.onChange([&changes] { ++changes; });
+    synthesizer.onChange(&changes, [&changes] { ++changes; });
     synthesizer.open();
     synthesizer.waitUntilLoaded();
     EXPECT_EQ(synthesizer.state().bank.toStdString(), banks.front().string());
@@ -110,7 +110,7 @@ TEST_F(Synthesizers, EndWhileTheyLoad) {
     int changes = 0;
     for (int round = 0; round < 3; ++round) {
         FluidSynthesizer synthesizer(systemPlaces());
-        synthesizer.onChange([&changes] { ++changes; });
+        synthesizer.onChange(&changes, [&changes] { ++changes; });
         synthesizer.open();
         synthesizer.open();
         const SynthesizerState state = synthesizer.state();

@@ -227,7 +227,7 @@ TEST_F(SynthesizerThreads, LoadOnlyTheLastOfSeveralBanks) {
 
 TEST_F(SynthesizerThreads, TellThatAServerDoesNotAnswerAndGoOnWhenItDoes) {
     int changes = 0;
-    synthesizer.onChange([&changes] { ++changes; });
+    synthesizer.onChange(&changes, [&changes] { ++changes; });
     engine->hold("open");
     expectAnswer("open", [this] { synthesizer.open(); });
     EXPECT_FALSE(tellsNoAnswer()) << "it has some time";
@@ -275,7 +275,7 @@ TEST_F(SynthesizerThreads, EndWhileAServerHangs) {
     bool told = false;
     expectAnswer("end", [&] {
         FluidSynthesizer own({"mine.sf2", {}, {}, {}}, engine);
-        own.onChange([&told] { told = true; });
+        own.onChange(&told, [&told] { told = true; });
         own.open();
         own.waitUntilLoaded();
         engine->hold("close");

@@ -1,0 +1,81 @@
+// Where the main window stands: at first, at least, and in the next run.
+#include "shell/window_place.h"
+
+#include "tests/shell/main_window.h"
+
+#include <QScreen>
+
+namespace tabrova {
+namespace {
+
+class Places : public testing::MainWindowTest {
+  protected:
+    void start() {
+        place.reset();
+        window = std::make_unique<frmMain>(services);
+        place = std::make_unique<WindowPlace>(*window, services.settings);
+        place->restore();
+        window->show();
+        window->Form_Load({}, frmMain::Splash::Never);
+        place->restoreViews();
+        window->ending = [this] { place->remember(); };
+        QApplication::processEvents();
+    }
+    ~Places() override { place.reset(); }
+    QRect room() { return window->screen()->availableGeometry(); }
+
+    std::unique_ptr<WindowPlace> place;
+};
+
+TEST_F(Places, TheFirstWindowLiesInsideTheScreen) {
+    start();
+    EXPECT_TRUE(room().contains(window->geometry())) << window->height() << " of " << room().height();
+    EXPECT_GE(window->clientArea()->width(), 784);
+}
+
+TEST_F(Places, TheLeastSizeShowsTheScrollBar) {
+    start();
+    EXPECT_EQ(window->minimumWidth(), std::min(784, room().width() - 8));
+    window->commands().views.setZoom(125);
+    EXPECT_EQ(window->minimumWidth(), std::min(980, room().width() - 8));
+    EXPECT_LE(window->minimumHeight(), room().height());
+}
+
+TEST_F(Places, SizePlaceAndViewsComeBack) {
+    start();
+    window->setGeometry(30, 40, 790, 480);
+    window->menu().action("mnuVirtualFretboard")->trigger();
+    window->menu().action("mnuViewNotation")->trigger();
+    QApplication::processEvents();
+    const QRect before = window->geometry();
+    window->endInOrder();
+    start();
+    EXPECT_EQ(window->geometry(), before);
+    EXPECT_TRUE(window->menu().isChecked("mnuVirtualFretboard"));
+    EXPECT_TRUE(window->commands().views.layout().fretboardShown);
+    EXPECT_FALSE(window->menu().isChecked("mnuViewNotation"));
+    EXPECT_FALSE(window->commands().views.layout().stripShown);
+}
+
+TEST_F(Places, WhatIsNoPlaceIsPassedOver) {
+    services.settings.SaveSetting("Window", "Geometry", "!! no place !!");
+    services.settings.SaveSetting("Window", "Notation", "maybe");
+    start();
+    EXPECT_TRUE(room().contains(window->geometry()));
+    EXPECT_FALSE(window->menu().isChecked("mnuViewNotation")) << "anything but 1 is off";
+}
+
+TEST(FirstZoom, FollowsTheScreen) {
+    for (const auto& [width, height, zoom] : {std::tuple{800, 600, 100},
+                                              {1366, 768, 100},
+                                              {1920, 1080, 100},
+                                              {2560, 1440, 150},
+                                              {2400, 1350, 150},
+                                              {2000, 1125, 125},
+                                              {2560, 1000, 100},
+                                              {3840, 2160, 200}})
+        EXPECT_EQ(zoomForScreen({width, height}), zoom) << width;
+}
+
+} // namespace
+} // namespace tabrova
