@@ -79,7 +79,7 @@ void drawSize(QPainter& painter, int scale, const Bend& bend) {
         return;
     }
     const int wholeLeft = withHalf ? 0 : bend.arrowColumn - 2;
-    drawDigit(painter, scale, digit, DigitSize::Narrow, {wholeLeft, bend.textRow});
+    drawDigit(painter, scale, digit, DigitSize::Tall, {wholeLeft, bend.textRow});
     // The narrow one ends a column before its cell does, so the fraction moves up to it.
     if (withHalf) drawHalf(painter, scale, {whole == 1 ? 4 : 5, bend.textRow});
 }

@@ -1,4 +1,4 @@
-// The shapes of digits and letters. A stroke shape is given in a box that starts half a stroke
+// The shapes of the marks' digits and letters. A stroke shape is given in a box that starts half a stroke
 // inside the glyph's own, with all straight strokes on half units: they fall on whole pixels.
 #include "glyphs.h"
 
@@ -8,33 +8,13 @@ namespace sheet {
 
 namespace {
 
-const std::array<PixelRows, 10> wideDigits{{
-    {".###.", "#...#", "#...#", "#...#", "#...#", "#...#", ".###."},
-    {"..#..", ".##..", "#.#..", "..#..", "..#..", "..#..", "#####"},
-    {".###.", "#...#", "....#", "...#.", "..#..", ".#...", "#####"},
-    {".###.", "#...#", "....#", "..##.", "....#", "#...#", ".###."},
-    {"...#.", "..##.", ".#.#.", "#..#.", "#####", "...#.", "...#."},
-    {"#####", "#....", "####.", "....#", "....#", "#...#", ".###."},
-    {".###.", "#....", "#....", "####.", "#...#", "#...#", ".###."},
-    {"#####", "....#", "...#.", "...#.", "..#..", "..#..", "..#.."},
-    {".###.", "#...#", "#...#", ".###.", "#...#", "#...#", ".###."},
-    {".###.", "#...#", "#...#", ".####", "....#", "....#", ".###."},
-}};
-
-const std::array<PixelRows, 10> narrowDigits{{
-    {".##.", "#..#", "#..#", "#..#", "#..#", "#..#", ".##."},
+// '1' to '3'.
+const std::array<PixelRows, 3> tallDigits{{
     {"..#.", ".##.", "#.#.", "..#.", "..#.", "..#.", "..#."},
     {".##.", "#..#", "...#", "..#.", ".#..", "#...", "####"},
     {".##.", "#..#", "...#", ".##.", "...#", "#..#", ".##."},
-    {"..#.", ".##.", ".##.", "#.#.", "####", "..#.", "..#."},
-    {"####", "#...", "###.", "...#", "...#", "#..#", ".##."},
-    {".##.", "#...", "#...", "###.", "#..#", "#..#", ".##."},
-    {"####", "...#", "...#", "..#.", "..#.", ".#..", ".#.."},
-    {".##.", "#..#", "#..#", ".##.", "#..#", "#..#", ".##."},
-    {".##.", "#..#", "#..#", ".###", "...#", "...#", ".##."},
 }};
 
-// '1' to '3'.
 const std::array<PixelRows, 3> smallDigits{{
     {".#.", "##.", ".#.", ".#.", "###"},
     {"##.", "..#", ".#.", "#..", "###"},
@@ -82,75 +62,14 @@ QPainterPath strokesOfThree(double width) {
     return path;
 }
 
-QPainterPath strokesOfFour(double width) {
-    QPainterPath path;
-    path.moveTo(width - 1, 6);
-    path.lineTo(width - 1, 0);
-    path.lineTo(0, 4);
-    path.lineTo(width, 4);
-    return path;
-}
-
-QPainterPath strokesOfFive(double width) {
-    QPainterPath path;
-    path.moveTo(width - 0.3, 0);
-    path.lineTo(0, 0);
-    path.lineTo(0, 2.5);
-    path.cubicTo(width * 0.5, 1.8, width, 2.4, width, 4);
-    path.cubicTo(width, 6.6, 0.2, 6.6, 0, 5);
-    return path;
-}
-
-QPainterPath strokesOfSix(double width) {
-    QPainterPath path = bowl(0, 2.5, width, 6);
-    path.moveTo(0, 4.25);
-    path.cubicTo(0, 1.2, width * 0.3, 0, width - 0.4, 0);
-    return path;
-}
-
-QPainterPath strokesOfSeven(double width) {
-    QPainterPath path;
-    path.moveTo(0, 0);
-    path.lineTo(width, 0);
-    path.cubicTo(width - 0.2, 1.2, width * 0.4, 3, width * 0.4, 6);
-    return path;
-}
-
-QPainterPath strokesOfEight(double width) {
-    QPainterPath path = bowl(0.2, 0, width - 0.2, 3);
-    path.addPath(bowl(0, 3, width, 6));
-    return path;
-}
-
-QPainterPath strokesOfNine(double width) {
-    QTransform turn;
-    turn.translate(width, 6);
-    turn.rotate(180);
-    return turn.map(strokesOfSix(width));
-}
-
 QPainterPath strokesOfDigit(char digit, double width) {
     switch (digit) {
-    case '0':
-        return bowl(0, 0, width, 6);
     case '1':
         return strokesOfOne(width);
     case '2':
         return strokesOfTwo(width);
-    case '3':
-        return strokesOfThree(width);
-    case '4':
-        return strokesOfFour(width);
-    case '5':
-        return strokesOfFive(width);
-    case '6':
-        return strokesOfSix(width);
-    case '7':
-        return strokesOfSeven(width);
-    case '8':
-        return strokesOfEight(width);
     default:
-        return strokesOfNine(width);
+        return strokesOfThree(width);
     }
 }
 
@@ -211,18 +130,6 @@ QPainterPath strokesOfH() {
     return path;
 }
 
-const PixelRows& pixelsOfDigit(char digit, DigitSize size) {
-    const auto value = static_cast<std::size_t>(digit - '0');
-    switch (size) {
-    case DigitSize::Wide:
-        return wideDigits[value];
-    case DigitSize::Narrow:
-        return narrowDigits[value];
-    default:
-        return smallDigits[value - 1];
-    }
-}
-
 // The strokes of a small digit are those of a large one, pressed together before the pen follows them.
 void strokeSmallDigit(QPainter& painter, char digit, const QPoint& at) {
     const QPainterPath strokes = QTransform::fromScale(1, 4.0 / 6).map(strokesOfDigit(digit, 2));
@@ -233,7 +140,8 @@ void strokeSmallDigit(QPainter& painter, char digit, const QPoint& at) {
 
 void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const QPoint& at) {
     if (scale == 1) {
-        drawPixels(painter, at, pixelsOfDigit(digit, size));
+        const auto& pixels = size == DigitSize::Tall ? tallDigits : smallDigits;
+        drawPixels(painter, at, pixels[static_cast<std::size_t>(digit - '1')]);
         return;
     }
     if (size == DigitSize::Small) {
@@ -242,7 +150,7 @@ void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const Q
     }
     // Longer ends would close the open sides of the three, and make an eight of it.
     const Qt::PenCapStyle ends = digit == '3' ? Qt::FlatCap : Qt::SquareCap;
-    strokeGlyph(painter, strokesOfDigit(digit, size == DigitSize::Wide ? 4 : 3), at, 1, ends);
+    strokeGlyph(painter, strokesOfDigit(digit, 3), at, 1, ends);
 }
 
 void drawHalf(QPainter& painter, int scale, const QPoint& at) {

@@ -1,15 +1,15 @@
-// The numbers and letters of the sheet: hand-set pixels for the sheet of scale 1, strokes with
-// exact edges for the finer ones, so that no font of the machine has a say in the result.
+// The numbers and letters of the marks: hand-set pixels for the sheet of scale 1, strokes with exact edges
+// for the finer ones. They are lighter than the numbers of the notes.
 #pragma once
 
 #include "sheet_canvas.h"
 
 namespace sheet {
 
-// In logical pixels: 5 by 7, 4 by 7 and 3 by 5. There is a small '1', '2' and '3' only.
-enum class DigitSize { Wide, Narrow, Small };
+// In logical pixels: 4 by 7 and 3 by 5.
+enum class DigitSize { Tall, Small };
 
-// Draws one digit '0' to '9' with its left upper corner at the given place.
+// Draws one digit '1' to '3' with its left upper corner at the given place.
 void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const QPoint& at);
 
 // One half behind a number, 8 by 7, and one half on its own, small on one line, 9 by 5.

@@ -89,9 +89,11 @@ void drawRhythm(SheetCanvas& canvas) {
     canvas.paint(QRect(346, 0, 1, 18), Copying::Opaque,
                  [](QPainter& painter) { painter.fillRect(QRect(0, 0, 1, 18), ink); });
     // Read downwards from its tenth row the ladder gives one, two or three beams; read whole, four.
-    canvas.paint(QRect(347, 1, 10, 17), Copying::And, [](QPainter& painter) {
-        for (const int row : {6, 9, 12, 15})
-            painter.fillRect(QRect(0, row, 10, 2), ink);
+    // Finer pixels leave the beams lighter than the numbers above them, and as low as the stems' ends.
+    const double thickness = canvas.scale() == 1 ? 2 : 1.5;
+    canvas.paint(QRect(347, 1, 10, 17), Copying::And, [thickness](QPainter& painter) {
+        for (const int bottom : {8, 11, 14, 17})
+            painter.fillRect(QRectF(0, bottom - thickness, 10, thickness), ink);
     });
     canvas.paint(QRect(365, 30, 1, 11), Copying::And, [](QPainter& painter) {
         for (const int row : {0, 3, 6, 9})

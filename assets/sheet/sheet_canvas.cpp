@@ -74,6 +74,7 @@ void drawPixels(QPainter& painter, const QPoint& at, const PixelRows& rows) {
         for (const char mark : row) {
             if (mark == '#') painter.fillRect(QRect(x, y, 1, 1), ink);
             if (mark == '+') painter.fillRect(QRect(x, y, 1, 1), softInk);
+            if (mark == '-') painter.fillRect(QRect(x, y, 1, 1), lightInk);
             ++x;
         }
         ++y;

@@ -20,13 +20,14 @@ inline constexpr int sheetHeight = 160;
 
 inline const QColor ink{0, 0, 0};
 inline const QColor softInk{128, 128, 128};
+inline const QColor lightInk{208, 208, 208};
 inline const QColor stringGrey{144, 144, 144};
 inline const QColor staffLineGrey{128, 128, 128};
 
 // How the page takes a cell: in place of what is there, or bit by bit with it.
 enum class Copying { Opaque, And };
 
-// One string a row; '#' is ink, '+' softens a corner, anything else is left alone.
+// One string a row; '#' is ink, '+' softens a corner, '-' a counter, anything else is left alone.
 using PixelRows = std::vector<std::string_view>;
 
 class SheetCanvas {

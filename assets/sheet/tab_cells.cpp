@@ -1,7 +1,7 @@
 // Staff pieces and cells, each at the place where the page copies it from.
 #include "tab_cells.h"
 
-#include "glyphs.h"
+#include "digits.h"
 
 #include <array>
 
@@ -22,29 +22,17 @@ constexpr int stringRowOfCell = 4;
 // between the digits.
 constexpr std::array<int, 7> dottedColumns{3, 5, 7, 13, 15, 17, 19};
 
-// A note's number stands in the middle of its cell; a repeat's count stands close to the small x.
-constexpr int noteIndent = 2;
-constexpr int countIndent = 1;
-
-void drawNumber(QPainter& painter, int scale, int number, int indent) {
-    const auto units = static_cast<char>('0' + number % 10);
-    if (number < 10) {
-        drawDigit(painter, scale, units, DigitSize::Wide, {indent, 0});
-        return;
-    }
-    const auto tens = static_cast<char>('0' + number / 10);
-    drawDigit(painter, scale, tens, DigitSize::Narrow, {0, 0});
-    drawDigit(painter, scale, units, DigitSize::Narrow, {5, 0});
-}
-
 void drawNoteNumber(SheetCanvas& canvas, const QPoint& place, int number) {
-    canvas.paint(QRect(place, cellSize), Copying::Opaque,
-                 [&](QPainter& painter) { drawNumber(painter, canvas.scale(), number, noteIndent); });
+    canvas.paint(QRect(place, cellSize), Copying::Opaque, [&](QPainter& painter) {
+        drawNumber(painter, canvas.scale(), number, {0, 0});
+    });
 }
 
+// A count of one digit moves up to the small x.
 void drawCount(SheetCanvas& canvas, const QPoint& place, int count) {
-    canvas.paint(QRect(place, cellSize), Copying::And,
-                 [&](QPainter& painter) { drawNumber(painter, canvas.scale(), count, countIndent); });
+    canvas.paint(QRect(place, cellSize), Copying::And, [&](QPainter& painter) {
+        drawNumber(painter, canvas.scale(), count, {count < 10 ? -1 : 0, 0});
+    });
 }
 
 QPainterPath crossOf(double left, double top, double size) {
@@ -59,24 +47,25 @@ QPainterPath crossOf(double left, double top, double size) {
 void drawCross(SheetCanvas& canvas, const QPoint& place, Copying copying) {
     canvas.paint(QRect(place, cellSize), copying, [&](QPainter& painter) {
         if (canvas.scale() == 1)
-            drawPixels(painter, {2, 1}, {"#...#", ".#.#.", "..#..", ".#.#.", "#...#"});
+            drawPixels(painter, {1, 1}, {"##..##", ".####.", "..##..", ".####.", "##..##"});
         else
-            strokePath(painter, crossOf(2.6, 1.6, 3.8), 1.1);
+            strokePath(painter, crossOf(2.4, 1.4, 4.2), 1.5, Qt::FlatCap);
     });
 }
 
 void drawArrowHead(SheetCanvas& canvas, const QPoint& place) {
     canvas.paint(QRect(place, cellSize), Copying::Opaque, [&](QPainter& painter) {
         if (canvas.scale() == 1) {
-            drawPixels(painter, {2, 0}, {"##...", "#.#..", "#..#.", "#...#", "#..#.", "#.#..", "##..."});
+            drawPixels(painter, {2, 0},
+                       {"##....", "####..", "##.##.", "##..##", "##.##.", "####..", "##...."});
             return;
         }
         QPainterPath path;
-        path.moveTo(2.5, 1);
+        path.moveTo(2.7, 1.2);
         path.lineTo(6.2, 3.5);
-        path.lineTo(2.5, 6);
+        path.lineTo(2.7, 5.8);
         path.closeSubpath();
-        strokePath(painter, path, 0.9);
+        strokePath(painter, path, 1.4);
     });
 }
 

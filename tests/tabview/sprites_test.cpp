@@ -119,6 +119,31 @@ TEST(Sheet, ShowsAnotherNumberInEveryCellOfTheSecondRow) {
     }
 }
 
+// How dark a piece is, as the number of black logical pixels that would weigh as much.
+double weight(const Surface& sheet, const Rect& rect) {
+    const int scale = sheet.scale();
+    int darkness = 0;
+    for (int y = rect.top * scale; y < rect.bottom() * scale; ++y)
+        for (int x = rect.left * scale; x < rect.right() * scale; ++x)
+            darkness += 255 - qGray(sheet.image().pixel(x, y));
+    return darkness / (255.0 * scale * scale);
+}
+
+// Strokes of one and a half pixels: thinner numbers would be lost beside the beams.
+TEST(Sheet, ShowsBoldNumbersAtEveryScale) {
+    for (const int scale : {1, 2, 3}) {
+        const Surface sheet = loadSheet(scale);
+        for (int number = 0; number <= 46; ++number) {
+            const Rect cell =
+                number <= 29 ? Rect{1 + 10 * number, 1, 9, 7} : Rect{1 + 10 * (number - 30), 9, 9, 7};
+            EXPECT_GT(weight(sheet, cell), number < 10 ? 11.5 : 23) << number << " at scale " << scale;
+        }
+        for (int count = 1; count <= 15; ++count)
+            EXPECT_GT(weight(sheet, repeatCountGlyph(count)), count < 9 ? 11.5 : 23) << count;
+        EXPECT_GT(weight(sheet, sprite::DeadNote), 11) << scale;
+    }
+}
+
 TEST(Sheet, HasInkInEveryCellOfARepeatCount) {
     const Surface sheet = loadSheet(1);
     for (int count = 1; count <= 15; ++count)
