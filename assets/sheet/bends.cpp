@@ -17,37 +17,43 @@ enum class Direction { Down, Up };
 struct Bend {
     QRect cell;
     Direction direction;
-    int halves;      // size in half tones of a whole step
+    int halves;      // in half steps
     int startColumn; // where the curve leaves the string
     int arrowColumn; // column of shaft and head
     double startRow; // height of the curve's start
     double tipRow;   // where the head's point ends
-    int textRow;     // first row of the size: seven rows for a number, five for a fraction alone
+    QPoint size;     // where the size's seven rows begin
 };
 
 // Strings cross the downward sprites in rows 3, 13 and 23, and the upward ones in row 7, in rows 9 and 19, or
-// in rows 3, 13 and 23. The sizes keep between them; only the two longest downward ones can't.
+// in rows 3, 13 and 23. The sizes keep between them; those of the shortest and of the two longest downward
+// ones can't.
 const std::array<Bend, 12> bends{{
-    {{425, 58, 10, 17}, Direction::Down, 1, 0, 5, 3.5, 7.8, 8},
-    {{437, 58, 12, 28}, Direction::Down, 2, 0, 5, 3.5, 13, 14},
-    {{451, 57, 13, 32}, Direction::Down, 3, 0, 6, 3.5, 14, 15},
-    {{464, 57, 14, 32}, Direction::Down, 4, 0, 6, 3.5, 15, 16},
-    {{480, 57, 14, 32}, Direction::Down, 5, 0, 6, 3.5, 21, 22},
-    {{493, 57, 14, 32}, Direction::Down, 6, 1, 7, 3.5, 21, 22},
-    {{423, 101, 10, 17}, Direction::Up, 1, 0, 5, 16.5, 7, 1},
-    {{435, 90, 12, 28}, Direction::Up, 2, 0, 5, 27.5, 9, 1},
-    {{448, 86, 13, 32}, Direction::Up, 3, 0, 6, 31.5, 13.5, 6},
-    {{461, 86, 14, 32}, Direction::Up, 4, 0, 6, 31.5, 12.5, 5},
-    {{476, 86, 14, 32}, Direction::Up, 5, 0, 6, 31.5, 12, 4},
-    {{490, 86, 14, 32}, Direction::Up, 6, 0, 6, 31.5, 11.5, 4},
+    {{425, 58, 10, 17}, Direction::Down, 1, 0, 5, 3.5, 10, {2, 10}},
+    {{437, 58, 12, 28}, Direction::Down, 2, 0, 5, 3.5, 13, {3, 14}},
+    {{451, 57, 13, 32}, Direction::Down, 3, 0, 6, 3.5, 14, {0, 15}},
+    {{464, 57, 14, 32}, Direction::Down, 4, 0, 6, 3.5, 15, {4, 16}},
+    {{480, 57, 14, 32}, Direction::Down, 5, 0, 6, 3.5, 21, {0, 22}},
+    {{493, 57, 14, 32}, Direction::Down, 6, 1, 7, 3.5, 21, {5, 22}},
+    {{423, 101, 10, 17}, Direction::Up, 1, 0, 5, 16.5, 8, {2, 0}},
+    {{435, 90, 12, 28}, Direction::Up, 2, 0, 5, 27.5, 9, {3, 1}},
+    {{448, 86, 13, 32}, Direction::Up, 3, 0, 6, 31.5, 13.5, {0, 6}},
+    {{461, 86, 14, 32}, Direction::Up, 4, 0, 6, 31.5, 12.5, {4, 5}},
+    {{476, 86, 14, 32}, Direction::Up, 5, 0, 6, 31.5, 12, {0, 4}},
+    {{490, 86, 14, 32}, Direction::Up, 6, 0, 6, 31.5, 11.5, {4, 4}},
 }};
 
-constexpr double headLength = 4.5;
 constexpr double turnHeight = 5;
+
+// From the point back to the base. The shortest bends have a shorter head, which leaves them a shaft.
+double headOf(const Bend& bend) {
+    const double length = bend.halves == 1 ? 3.6 : 4.5;
+    return bend.direction == Direction::Down ? -length : length;
+}
 
 // Away from the string in a short bend, then straight along one column, which keeps the shaft sharp.
 void drawCurve(QPainter& painter, const Bend& bend) {
-    const double back = bend.direction == Direction::Down ? -headLength : headLength;
+    const double back = headOf(bend);
     const double middle = bend.arrowColumn + 0.5;
     const double neck = bend.tipRow + back * 0.8;
     const double turn = std::clamp(neck - bend.startRow, -turnHeight, turnHeight);
@@ -60,7 +66,7 @@ void drawCurve(QPainter& painter, const Bend& bend) {
 }
 
 void drawHead(QPainter& painter, const Bend& bend) {
-    const double back = bend.direction == Direction::Down ? -headLength : headLength;
+    const double back = headOf(bend);
     const double middle = bend.arrowColumn + 0.5;
     QPainterPath path;
     path.moveTo(middle, bend.tipRow);
@@ -72,16 +78,13 @@ void drawHead(QPainter& painter, const Bend& bend) {
 
 void drawSize(QPainter& painter, int scale, const Bend& bend) {
     const int whole = bend.halves / 2;
-    const bool withHalf = bend.halves % 2 == 1;
-    const auto digit = static_cast<char>('0' + whole);
-    if (whole == 0) {
-        drawLoneHalf(painter, scale, {1, bend.textRow});
-        return;
+    QPoint place = bend.size;
+    if (whole > 0) {
+        drawDigit(painter, scale, static_cast<char>('0' + whole), DigitSize::Tall, place);
+        // The one ends a column before its cell does.
+        place += QPoint(whole == 1 ? 5 : 6, 0);
     }
-    const int wholeLeft = withHalf ? 0 : bend.arrowColumn - 2;
-    drawDigit(painter, scale, digit, DigitSize::Tall, {wholeLeft, bend.textRow});
-    // The narrow one ends a column before its cell does, so the fraction moves up to it.
-    if (withHalf) drawHalf(painter, scale, {whole == 1 ? 4 : 5, bend.textRow});
+    if (bend.halves % 2 == 1) drawHalf(painter, scale, place);
 }
 
 } // namespace

@@ -21,10 +21,7 @@ const std::array<PixelRows, 3> smallDigits{{
     {"##.", "..#", ".#.", "..#", "##."},
 }};
 
-const PixelRows halfPixels{".#...#..", "##..#...", ".#..#...", ".#.#.##.",
-                           "...#...#", "..#...#.", "..#..###"};
-
-const PixelRows loneHalfPixels{".#..#.##.", "##..#...#", ".#..#..#.", ".#.#..#..", ".#.#..###"};
+const PixelRows halfPixels{"#...#..", "#..#...", "#..#...", "#.#.##.", "..#...#", ".#...#.", ".#..###"};
 
 QPainterPath bowl(double left, double top, double right, double bottom) {
     const double radius = std::min(right - left, bottom - top) / 2;
@@ -159,30 +156,16 @@ void drawHalf(QPainter& painter, int scale, const QPoint& at) {
         return;
     }
     QPainterPath path;
-    path.moveTo(1, 2.9);
-    path.lineTo(1, 0);
-    path.moveTo(0, 0.9);
-    path.lineTo(0.7, 0.3);
-    path.moveTo(5, 0);
-    path.lineTo(2.2, 6);
-    path.moveTo(4.6, 3.9);
-    path.cubicTo(4.8, 2.6, 7, 2.6, 7, 4.0);
-    path.cubicTo(7, 4.8, 4.8, 5.2, 4.6, 6);
-    path.lineTo(7, 6);
+    path.moveTo(0, 2.9);
+    path.lineTo(0, 0);
+    path.lineTo(-0.5, 0.7);
+    path.moveTo(4, 0);
+    path.lineTo(1.2, 6);
+    path.moveTo(3.6, 3.9);
+    path.cubicTo(3.8, 2.6, 6, 2.6, 6, 4.0);
+    path.cubicTo(6, 4.8, 3.8, 5.2, 3.6, 6);
+    path.lineTo(6, 6);
     strokeGlyph(painter, path, at, 0.8);
-}
-
-void drawLoneHalf(QPainter& painter, int scale, const QPoint& at) {
-    if (scale == 1) {
-        drawPixels(painter, at, loneHalfPixels);
-        return;
-    }
-    QPainterPath slash;
-    slash.moveTo(4.4, -0.4);
-    slash.lineTo(2.9, 4.4);
-    strokeGlyph(painter, slash, at, 0.7, Qt::FlatCap);
-    strokeSmallDigit(painter, '1', at - QPoint(1, 0));
-    strokeSmallDigit(painter, '2', at + QPoint(6, 0));
 }
 
 void drawLetter(QPainter& painter, int scale, char letter, const QPoint& at) {

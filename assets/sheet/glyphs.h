@@ -12,9 +12,8 @@ enum class DigitSize { Tall, Small };
 // Draws one digit '1' to '3' with its left upper corner at the given place.
 void drawDigit(QPainter& painter, int scale, char digit, DigitSize size, const QPoint& at);
 
-// One half behind a number, 8 by 7, and one half on its own, small on one line, 9 by 5.
+// One half, 7 by 7.
 void drawHalf(QPainter& painter, int scale, const QPoint& at);
-void drawLoneHalf(QPainter& painter, int scale, const QPoint& at);
 
 // 'H', 'a', 'S' and 'P' as the marks of the techniques use them, 4 by 6, and a full stop two wide.
 void drawLetter(QPainter& painter, int scale, char letter, const QPoint& at);
