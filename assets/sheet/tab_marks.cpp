@@ -18,10 +18,7 @@ QRect markAt(int left) { return {left, 107, markWidth, 12}; }
 using DrawMark = void (*)(QPainter&);
 
 void drawOpaqueMark(SheetCanvas& canvas, int left, DrawMark draw) {
-    canvas.paint(markAt(left), Copying::Opaque, [draw](QPainter& painter) {
-        drawStringLine(painter, stringRowOfMark, 0, markWidth);
-        draw(painter);
-    });
+    canvas.paint(markAt(left), Copying::Opaque, draw);
 }
 
 // Thickness of a slur where it begins and ends.
@@ -37,21 +34,32 @@ void drawSlur(QPainter& painter, double foot, double outer, double inner) {
     strokePath(painter, path, tipWeight);
 }
 
-void drawHammerArc(QPainter& painter) { drawSlur(painter, 6.5, -0.9, 1.3); }
+// An arc may reach over nine columns, and only this mark brings the string below it along.
+void drawHammerArc(QPainter& painter) {
+    drawStringLine(painter, stringRowOfMark, 0, markWidth);
+    drawSlur(painter, 6.5, -0.9, 1.3);
+}
+
+// The other opaque marks stand in the string's own place: they close the gap that they make, and the notation
+// strip, which takes their ink alone, shows no piece of a string. They end short of the cell, or they would
+// run into the next note.
+constexpr double markLeft = 0.5;
+constexpr double markRight = 23.5;
+constexpr double stringMiddle = stringRowOfMark + 0.5;
 
 void drawSlide(QPainter& painter) {
     QPainterPath path;
-    path.moveTo(1.5, 11);
-    path.lineTo(22.5, 4);
-    strokePath(painter, path, 1.2);
+    path.moveTo(markLeft + 0.5, 10.6);
+    path.lineTo(markRight - 0.5, 3.8);
+    strokePath(painter, path, 1.4);
 }
 
-// A wave. It ends short of the cell, or it would run into the next note.
-void drawWave(QPainter& painter, double middle, double height, double periods, double weight) {
+void drawWave(QPainter& painter, double height, double periods, double weight) {
     constexpr int steps = 240;
     const auto waveAt = [&](int step) {
         const double along = static_cast<double>(step) / steps;
-        return QPointF(1 + 22 * along, middle - height * std::sin(2 * std::numbers::pi * periods * along));
+        return QPointF(markLeft + (markRight - markLeft) * along,
+                       stringMiddle - height * std::sin(2 * std::numbers::pi * periods * along));
     };
     QPainterPath path(waveAt(0));
     for (int step = 1; step <= steps; ++step)
@@ -59,16 +67,16 @@ void drawWave(QPainter& painter, double middle, double height, double periods, d
     strokePath(painter, path, weight, Qt::FlatCap);
 }
 
-void drawVibrato(QPainter& painter) { drawWave(painter, 3.5, 1.4, 3, 1.4); }
+void drawVibrato(QPainter& painter) { drawWave(painter, 1.6, 3, 1.4); }
 
-void drawWhammyWave(QPainter& painter) { drawWave(painter, 3.5, 2.2, 1.5, 1.7); }
+void drawWhammyWave(QPainter& painter) { drawWave(painter, 2.7, 1.5, 1.7); }
 
 void drawDive(QPainter& painter) {
     QPainterPath path;
-    path.moveTo(1.5, 2.5);
-    path.lineTo(12, 10);
-    path.lineTo(22.5, 2.5);
-    strokePath(painter, path, 1.3);
+    path.moveTo(markLeft, 5.2);
+    path.lineTo((markLeft + markRight) / 2, 11);
+    path.lineTo(markRight, 5.2);
+    strokePath(painter, path, 1.4, Qt::FlatCap);
 }
 
 void drawRingedGhost(QPainter& painter) {

@@ -6,7 +6,7 @@
 
 namespace sheet {
 
-// Marks that replace the staff where they stand, and so bring their piece of the string along.
+// Marks that replace the staff where they stand: they bring the string along or close its gap themselves.
 void drawOpaqueMarks(SheetCanvas& canvas);
 
 // Marks of which only the ink reaches the page.

@@ -158,6 +158,22 @@ TEST(Sheet, CarriesTheStringAcrossRowFourOfTheBlankPiece) {
         EXPECT_EQ(drawn(sheet, {331, 1 + y, 9, 1}) > 0, y == 4) << y;
 }
 
+TEST(Sheet, BringsTheStringAlongUnderTheArcAlone) {
+    constexpr QRgb stringGrey = qRgb(144, 144, 144);
+    for (const int scale : {1, 2, 3}) {
+        const Surface sheet = loadSheet(scale);
+        const auto stringPixels = [&](const Rect& mark) {
+            int pixels = 0;
+            for (int x = mark.left * scale; x < mark.right() * scale; ++x)
+                pixels += colorAt(sheet.image(), x, (mark.top + 7) * scale) == stringGrey;
+            return pixels;
+        };
+        EXPECT_GT(stringPixels(sprite::HammerArc), 20 * scale);
+        for (const Rect& mark : {sprite::Slide, sprite::Vibrato, sprite::WhammyBar, sprite::Dive})
+            EXPECT_LT(stringPixels(mark), scale) << mark.left << " at scale " << scale;
+    }
+}
+
 TEST(Sheet, HoldsSixStringLinesTenApart) {
     const Surface sheet = loadSheet(1);
     for (int y = 0; y < 51; ++y) {
