@@ -16,7 +16,7 @@ struct PanelSize {
 struct Surroundings {
     int clientWidth = 0; // of the window, below its menu bar
     int clientHeight = 0;
-    int scale = 1;                // image pixels a logical pixel, 1 to 3
+    int scale = 1;                // image pixels a logical pixel, 1 to 4
     QRgb inlayColor = 0xFFB4B4B4; // of the fretboard, by the window's theme
     Rect page;                    // in the window's client area
     PanelSize bendPanel;

@@ -1,6 +1,7 @@
 // A drawing surface that keeps its image until it is cleared, and the two copy operations between surfaces.
-// All coordinates are logical pixels; a surface of scale 2 or 3 holds that many image pixels a logical pixel,
-// so that one geometry serves screens of every resolution. A copy needs both surfaces at the same scale.
+// All coordinates are logical pixels; a surface of scale 2, 3 or 4 holds that many image pixels a logical
+// pixel, so that one geometry serves screens of every resolution. A copy needs both surfaces at the same
+// scale.
 #pragma once
 
 #include <QImage>

@@ -27,7 +27,7 @@ TabView::TabView()
       picFretboard(FretboardWidth, 1, PaperColor), sheet_(loadSheet(1)) {}
 
 void TabView::setScale(int scale) {
-    scale = std::clamp(scale, 1, 3);
+    scale = std::clamp(scale, 1, FinestScale);
     if (scale == sheet_.scale()) return;
     sheet_ = loadSheet(scale);
     for (Surface* surface : {&picDocument, &picStandardNotation, &picFretboard})

@@ -10,6 +10,9 @@
 
 namespace tabrova {
 
+// There is a sheet for each scale from 1 to this one.
+constexpr int FinestScale = 4;
+
 class TabView {
   public:
     TabView();
@@ -19,7 +22,7 @@ class TabView {
     Surface picFretboard;
     const Surface& picSource() const { return sheet_; }
 
-    // Image pixels a logical pixel, 1 to 3, for all surfaces and the sheet. Clears the surfaces.
+    // Image pixels a logical pixel, 1 to FinestScale, for all surfaces and the sheet. Clears the surfaces.
     void setScale(int scale);
 
     // The visible staves over a cleared page. Returns PageRow, the number of staves drawn.
@@ -46,7 +49,7 @@ class TabView {
     std::int16_t NoteTop = 0;
 };
 
-// The sprite sheet at 1, 2 or 3 image pixels a logical pixel.
+// The sprite sheet at 1 to FinestScale image pixels a logical pixel.
 Surface loadSheet(int scale);
 
 } // namespace tabrova

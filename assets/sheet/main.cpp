@@ -1,4 +1,4 @@
-// make_sheet OUTDIR writes picSource in its three sizes.
+// make_sheet OUTDIR writes picSource in its four sizes.
 // make_sheet --preview FILE.png SCALE writes a mock page, for looking at the drawings, and as FILE-narrow.png
 // one of narrow columns; at scale 1 also both enlarged, every pixel four by four.
 #include "bends.h"
@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr int finestScale = 4;
 constexpr int enlargement = 4;
 constexpr int usualColumnWidth = 29;
 constexpr int narrowColumnWidth = 20;
@@ -54,7 +55,7 @@ bool save(const QImage& image, const QString& path) {
 }
 
 int writeSheets(const QDir& folder) {
-    for (const int scale : {1, 2, 3})
+    for (int scale = 1; scale <= finestScale; ++scale)
         if (!save(drawSheet(scale), folder.filePath(nameOfSheet(scale)))) return 1;
     return 0;
 }
@@ -70,8 +71,8 @@ bool savePreview(const QImage& page, const QString& path, int scale) {
 }
 
 int writePreview(const QString& path, int scale) {
-    if (scale < 1 || scale > 3) {
-        std::fprintf(stderr, "make_sheet: the scale is 1, 2 or 3\n");
+    if (scale < 1 || scale > finestScale) {
+        std::fprintf(stderr, "make_sheet: the scale is 1 to 4\n");
         return 2;
     }
     const QImage drawnSheet = drawSheet(scale);

@@ -45,7 +45,7 @@ TEST_F(Generated, SheetsAreTheCommittedOnesPixelByPixel) {
     run("make_sheet", {folder.path()});
     const QStringList names = QDir(folder.path()).entryList({"*.png"}, QDir::Files);
     EXPECT_EQ(names, QDir(source.filePath("assets")).entryList({"*.png"}, QDir::Files));
-    EXPECT_EQ(names.size(), 3);
+    EXPECT_EQ(names.size(), 4);
     for (const QString& name : names) {
         const QImage drawn(path(name));
         const QImage committed(source.filePath("assets/" + name));

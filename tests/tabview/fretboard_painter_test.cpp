@@ -126,7 +126,7 @@ TEST_F(NeckPixels, AnySurfaceAndAnyColumnIsDrawn) {
     for (const int column : {0, -5, 1 << 30}) {
         document.CurrentColumn = column;
         for (const int height : {1, 2, 15, 16, 30, 44, 45, 200, 1700})
-            for (const int scale : {1, 2, 3}) {
+            for (const int scale : {1, 2, 3, 4}) {
                 view.setScale(scale);
                 view.picFretboard.resize(89, height);
                 draw();
@@ -141,7 +141,7 @@ TEST_F(NeckPixels, AnySurfaceAndAnyColumnIsDrawn) {
 }
 
 TEST_F(NeckPixels, LabelsStandFourFromTheLeftInTheMiddleOfTheirLines) {
-    for (const int scale : {1, 2, 3}) {
+    for (const int scale : {1, 2, 3, 4}) {
         view.setScale(scale);
         draw();
         const QImage expected = plainNeck(465, scale);
@@ -151,7 +151,7 @@ TEST_F(NeckPixels, LabelsStandFourFromTheLeftInTheMiddleOfTheirLines) {
 }
 
 TEST_F(NeckPixels, LinesStandAtTheSamePlacesOnFinerScreens) {
-    for (const int scale : {2, 3}) {
+    for (const int scale : {2, 3, 4}) {
         view.setScale(scale);
         document.setNote(0, 2, "7");
         draw();

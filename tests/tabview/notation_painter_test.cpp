@@ -116,7 +116,7 @@ TEST_F(NotationPixels, TechniquesStandBesideTheirHead) {
 TEST_F(NotationPixels, EqualTheCopiesCarriedOutPixelByPixelAtEveryScale) {
     std::mt19937 random(5);
     for (int round = 0; round < 9; ++round) {
-        const int scale = 1 + round % 3;
+        const int scale = 1 + round % 4;
         makePage(document, 1, 2, 700, 230);
         fillAtRandom(document, random, 4 + round * 6);
         view.setScale(scale);

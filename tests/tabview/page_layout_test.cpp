@@ -207,7 +207,7 @@ TEST(PagePixels, AreThoseOfTheCopiesInOrder) {
 
 TEST(PagePixels, AreThoseOfTheCopiesAtScaleTwoAndThree) {
     std::mt19937 random(9);
-    for (const int scale : {2, 3}) {
+    for (const int scale : {2, 3, 4}) {
         Document document;
         makePage(document, 1, 2, 984, 210);
         fillAtRandom(document, random, 40);

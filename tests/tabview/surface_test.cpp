@@ -72,7 +72,7 @@ TEST(Surface, KeepsWhatFitsWhenItShrinks) {
 }
 
 TEST(Surface, KeepsItsImageAtEveryScaleWhenItIsResized) {
-    for (const int scale : {2, 3}) {
+    for (const int scale : {2, 3, 4}) {
         Surface surface = pageOf(5, 5, scale);
         surface.image().setPixel(5 * scale - 1, 5 * scale - 1, qRgb(1, 2, 3));
         surface.resize(7, 8);
@@ -121,7 +121,7 @@ TEST(BitBlt, CopiesEveryPixelToItsPlace) {
 }
 
 TEST(BitBlt, LeavesOutWhatFallsOutsideThePageOnAnySide) {
-    for (const int scale : {1, 2, 3}) {
+    for (const int scale : {1, 2, 3, 4}) {
         const Surface source = numbered(24, 24, scale);
         for (const Raster raster : Rasters)
             for (const int x : {-40, -8, -7, -3, 0, 12, 13, 19, 20, 90})
@@ -131,7 +131,7 @@ TEST(BitBlt, LeavesOutWhatFallsOutsideThePageOnAnySide) {
 }
 
 TEST(BitBlt, LeavesOutWhatFallsOutsideTheSourceOnAnySide) {
-    for (const int scale : {1, 2, 3}) {
+    for (const int scale : {1, 2, 3, 4}) {
         const Surface source = numbered(10, 9, scale);
         for (const Raster raster : Rasters)
             for (const int x : {-40, -8, -3, 0, 2, 3, 9, 10, 50})
@@ -202,7 +202,7 @@ TEST(StretchBlt, ShrinksByCombiningThePixelsThatFallTogether) {
 }
 
 TEST(StretchBlt, TakesItsPixelsAtEveryWidthAndScale) {
-    for (const int scale : {1, 2, 3}) {
+    for (const int scale : {1, 2, 3, 4}) {
         const Surface source = numbered(30, 12, scale);
         for (const Raster raster : Rasters)
             for (const int width : {1, 2, 5, 13, 16, 25, 26, 27, 45, 53, 79, 221, 509})
@@ -212,7 +212,7 @@ TEST(StretchBlt, TakesItsPixelsAtEveryWidthAndScale) {
 }
 
 TEST(StretchBlt, IsCutOnAnySideWithoutShiftingTheRest) {
-    for (const int scale : {1, 2, 3}) {
+    for (const int scale : {1, 2, 3, 4}) {
         const Surface source = numbered(30, 12, scale);
         for (const Raster raster : Rasters)
             for (const int x : {-60, -37, -20, -1, 0, 7, 19, 20, 50})
@@ -246,7 +246,7 @@ TEST(StretchBlt, AgreesWithTheNaiveBlitterOnRandomCopies) {
         return std::uniform_int_distribution<int>(least, most)(random);
     };
     for (int run = 0; run < 3000; ++run) {
-        const int scale = choose(1, 3);
+        const int scale = choose(1, 4);
         const Surface source = numbered(30, 12, scale);
         const int left = choose(0, 25), top = choose(0, 9);
         const Rect piece = {left, top, choose(1, 30 - left), choose(1, 12 - top)};
@@ -256,7 +256,7 @@ TEST(StretchBlt, AgreesWithTheNaiveBlitterOnRandomCopies) {
 }
 
 TEST(FillRect, FillsWhatLiesOnTheSurfaceAndNothingElse) {
-    for (const int scale : {1, 2, 3})
+    for (const int scale : {1, 2, 3, 4})
         for (const Rect& place : {Rect{2, 3, 4, 5},
                                   {-5, -5, 9, 9},
                                   {15, 12, 100, 100},
