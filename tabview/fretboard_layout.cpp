@@ -15,6 +15,8 @@ constexpr int LowestStringLeft = 20;
 constexpr int StringPitch = 10;
 constexpr int HighestStringLeft = 70;
 constexpr int NoFret = -20; // puts a dot far above the surface
+constexpr int SmallestLabel = 8;
+constexpr int LargestLabel = 11;
 constexpr int InlayLeft = 35;
 constexpr int InlayRight = 55;
 constexpr int InlayGap = 5;
@@ -22,6 +24,19 @@ constexpr int InlaidFrets[] = {3, 5, 7, 9, 12, 15, 17, 19, 21, 23, 25, 27, 29};
 
 int roundedQuotient(int dividend, int divisor) {
     return static_cast<int>(roundHalfToEven(static_cast<double>(dividend) / divisor));
+}
+
+// Every how many frets have their number, so that numbers of the smallest size keep apart.
+int labelStep(int pitch) { return (SmallestLabel + pitch - 1) / pitch; }
+
+bool isLabelled(int number, int pitch) { return number > 0 && pitch > 0 && number % labelStep(pitch) == 0; }
+
+// A number's figures are three quarters of its size high, so that this leaves them a good part of their own
+// height between them.
+int labelSize(int pitch) {
+    constexpr int Gap = 2;
+    if (pitch <= 0) return SmallestLabel;
+    return std::clamp(labelStep(pitch) * pitch - Gap, SmallestLabel, LargestLabel);
 }
 
 // Both edges are filled; on a neck too short for the gaps they change places.
@@ -41,10 +56,11 @@ FretboardLayout layoutFretboard(const Document& document, int surfaceHeight) {
     const int pitch = fretPitch(surfaceHeight);
     for (int number = 0; number < FretsOnNeck; ++number) {
         NeckFret& fret = layout.frets[static_cast<std::size_t>(number)];
-        fret = {number, pitch * number + FirstFretTop, std::nullopt};
+        fret = {number, pitch * number + FirstFretTop, isLabelled(number, pitch), std::nullopt};
         if (std::ranges::find(InlaidFrets, number + 1) != std::end(InlaidFrets))
             fret.inlay = inlayBelow(fret.y, pitch);
     }
+    layout.labelPixels = labelSize(pitch);
     const int runOut = LastFret * layout.frets.back().y;
     for (int string = 0; string < StringsPerTrack; ++string) {
         const auto index = static_cast<std::size_t>(string);

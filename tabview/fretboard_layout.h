@@ -21,6 +21,7 @@ int fretPitch(int surfaceHeight);
 struct NeckFret {
     int number;
     int y;                     // of its line and of its label's middle
+    bool labelled;             // with its number: fret 0 never, and others where numbers would touch
     std::optional<Rect> inlay; // in the space below the line
 };
 
@@ -33,6 +34,7 @@ struct FretboardLayout {
     std::array<NeckFret, FretsOnNeck> frets;
     std::array<Line, StringsPerTrack> strings; // they run out far below the surface, deliberately
     std::array<NeckDot, StringsPerTrack> dots; // the notes of the column under the cursor
+    int labelPixels;                           // size of the numbers' font, smaller where frets are close
 };
 
 FretboardLayout layoutFretboard(const Document& document, int surfaceHeight);

@@ -13,29 +13,27 @@ constexpr QRgb Black = 0xFF000000;
 constexpr int NeckLeft = 20;
 constexpr int NeckRight = 70;
 constexpr int LabelLeft = 4;
-constexpr int LabelBaseline = 4; // below the fret's line: the box of the text begins 7 above it
-constexpr int LabelPixels = 11;
 constexpr int DotReach = 5;
 
 // Where the named font is not installed, one of the machine's with figures as wide takes its place.
-QFont labelFont(int scale) {
+QFont labelFont(int pixels) {
     QFont font;
     font.setFamilies({"Tahoma", "Verdana", "DejaVu Sans", "Noto Sans"});
     font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(LabelPixels * scale);
+    font.setPixelSize(pixels);
     return font;
 }
 
-// Fret 0 has no label. In image pixels, so that the figures are fitted to the screen's grid.
+// In image pixels, so that the figures are fitted to the screen's grid.
 void paintLabels(Surface& surface, const FretboardLayout& layout) {
     QPainter painter(&surface.image());
     const int scale = surface.scale();
-    painter.setFont(labelFont(scale));
+    painter.setFont(labelFont(layout.labelPixels * scale));
+    const int baseline = (layout.labelPixels + 2) / 3; // below the fret's line: figures stand across it
     painter.setPen(QColor(Black));
     for (const NeckFret& fret : layout.frets)
-        if (fret.number > 0)
-            painter.drawText(LabelLeft * scale, (fret.y + LabelBaseline) * scale,
-                             QString::number(fret.number));
+        if (fret.labelled)
+            painter.drawText(LabelLeft * scale, (fret.y + baseline) * scale, QString::number(fret.number));
 }
 
 void paintNeck(Surface& surface, const FretboardLayout& layout, QRgb inlayColor) {

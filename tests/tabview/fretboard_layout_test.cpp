@@ -36,6 +36,28 @@ TEST_F(Neck, FretLinesStandAPitchApart) {
     }
 }
 
+TEST_F(Neck, FretsHaveTheirNumbersAsFarAsTheyFit) {
+    for (int height = -100; height < 3000; ++height) {
+        const FretboardLayout neck = layout(height);
+        const int pitch = fretPitch(height);
+        int last = -1000;
+        for (const NeckFret& fret : neck.frets) {
+            if (pitch >= 8) {
+                ASSERT_EQ(fret.labelled, fret.number > 0) << height;
+            }
+            if (!fret.labelled) continue;
+            ASSERT_GE(fret.y - last, 8) << height;
+            ASSERT_GE(fret.y - last, neck.labelPixels) << height;
+            last = fret.y;
+        }
+        ASSERT_EQ(last > 0, pitch > 0) << height;
+        ASSERT_GE(neck.labelPixels, 8);
+        ASSERT_EQ(neck.labelPixels == 11, pitch >= 13 || pitch == 7) << height;
+    }
+    EXPECT_TRUE(layout(30 + 29 * 7).frets[2].labelled);
+    EXPECT_FALSE(layout(30 + 29 * 7).frets[3].labelled);
+}
+
 TEST_F(Neck, InlaysStandInTheSpaceAboveTheirFret) {
     const std::set<int> inlaid = {3, 5, 7, 9, 12, 15, 17, 19, 21, 23, 25, 27, 29};
     const FretboardLayout neck = layout(465);

@@ -31,6 +31,23 @@ class NeckPixels : public ::testing::Test {
         return false;
     }
 
+    // Left of the neck and of every dot, where only numbers are.
+    bool labelInRow(int y) const {
+        for (int x = 0; x < 15 * view.picFretboard.scale(); ++x)
+            if (at(x, y) != PaperColor) return true;
+        return false;
+    }
+    // The most rows without a number that follow one another.
+    int blankRowsBetween(int top, int bottom) const {
+        int most = 0;
+        int rows = 0;
+        for (int y = top; y < bottom; ++y) {
+            rows = labelInRow(y) ? 0 : rows + 1;
+            most = std::max(most, rows);
+        }
+        return most;
+    }
+
     // A neck without notes, from its rules alone.
     static QImage plainNeck(int height, int scale) {
         QImage image(89 * scale, height * scale, QImage::Format_RGB32);
@@ -50,14 +67,18 @@ class NeckPixels : public ::testing::Test {
         }
         for (int x = 20; x <= 70; x += 10)
             box(x, 15, x, 29 * (29 * pitch + 15), Black);
+        if (pitch < 1) return image;
+        const int step = static_cast<int>(std::ceil(8.0 / pitch));
+        const int size = std::max(8, std::min(11, step * pitch - 2));
         QPainter painter(&image);
         QFont font;
         font.setFamilies({"Tahoma", "Verdana", "DejaVu Sans", "Noto Sans"});
         font.setStyleHint(QFont::SansSerif);
-        font.setPixelSize(11 * scale);
+        font.setPixelSize(size * scale);
         painter.setFont(font);
-        for (int fret = 1; fret < 30; ++fret)
-            painter.drawText(4 * scale, (pitch * fret + 15 + 4) * scale, QString::number(fret));
+        for (int fret = step; fret < 30; fret += step)
+            painter.drawText(4 * scale, (pitch * fret + 15 + (size > 9 ? 4 : 3)) * scale,
+                             QString::number(fret));
         return image;
     }
 
@@ -147,6 +168,23 @@ TEST_F(NeckPixels, LabelsStandFourFromTheLeftInTheMiddleOfTheirLines) {
         const QImage expected = plainNeck(465, scale);
         const QRect labels(0, 0, 20 * scale, 465 * scale);
         ASSERT_TRUE(sameImage(view.picFretboard.image().copy(labels), expected.copy(labels), "labels"));
+    }
+}
+
+TEST_F(NeckPixels, NumbersTouchAtNoHeight) {
+    for (int scale = 1; scale <= FinestScale; ++scale) {
+        view.setScale(scale);
+        for (int height = 1; height <= 700; ++height) {
+            view.picFretboard.resize(89, height);
+            draw();
+            int last = 0;
+            for (const NeckFret& fret : layoutFretboard(document, height).frets) {
+                if (!fret.labelled || fret.y >= height) continue;
+                ASSERT_TRUE(labelInRow(fret.y * scale)) << fret.number << ", " << height << " at " << scale;
+                ASSERT_GE(blankRowsBetween(last, fret.y * scale), scale) << height << " at " << scale;
+                last = fret.y * scale;
+            }
+        }
     }
 }
 
