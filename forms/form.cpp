@@ -1,6 +1,7 @@
 #include "forms/form.h"
 
 #include "forms/captions.h"
+#include "forms/focus_mark.h"
 #include "forms/tab_order.h"
 
 #include <QCheckBox>
@@ -63,7 +64,8 @@ bool canHaveFocus(const QWidget* control) { return control && control->isVisible
 
 Form::Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent)
     : QDialog(parent), programFolder_(programFolder),
-      returnKey_(new ReturnKey([this](QWidget* at, QKeyEvent* event) { takeReturn(at, event); }, this)) {
+      returnKey_(new ReturnKey([this](QWidget* at, QKeyEvent* event) { takeReturn(at, event); }, this)),
+      focusMark_(new FocusMark(this)) {
     setObjectName(name);
 }
 
@@ -80,7 +82,10 @@ void Form::takeMessage(std::string_view, const QString&) {}
 void Form::settleControls() {
     for (QWidget* control : findChildren<QWidget*>()) {
         if (control->window() != this) continue;
-        if (auto* button = qobject_cast<QPushButton*>(control)) button->setAutoDefault(false);
+        if (auto* button = qobject_cast<QPushButton*>(control)) {
+            button->setAutoDefault(false);
+            focusMark_->addTo(*button);
+        }
         if (leavesReturnToTheForm(control)) control->installEventFilter(returnKey_);
         auto* label = qobject_cast<QLabel*>(control);
         if (label && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);

@@ -13,6 +13,8 @@
 
 namespace tabrova {
 
+class FocusMark;
+
 class Form : public QDialog {
   public:
     Form(const char* name, const std::filesystem::path& programFolder, QWidget* parent);
@@ -51,6 +53,7 @@ class Form : public QDialog {
     std::filesystem::path programFolder_;
     QPointer<QWidget> firstFocus_;
     QObject* returnKey_;
+    FocusMark* focusMark_;
 };
 
 } // namespace tabrova

@@ -2,15 +2,33 @@
 
 #include "forms/named.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 
 namespace tabrova {
 
+namespace {
+
+// The Tab key comes to the link at once, where the toolkit would mark nothing before the key comes again.
+class LinkLabel : public QLabel {
+  public:
+    using QLabel::QLabel;
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QLabel::focusInEvent(event);
+        const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+        if (byTab) QLabel::focusNextPrevChild(true);
+    }
+};
+
+} // namespace
+
 frmAbout::frmAbout(const ToolContext& context, QWidget* parent) : ToolWindow("frmAbout", context, parent) {
     setWindowModality(Qt::WindowModal);
-    sequencer_ = named(new QLabel(this), "lblSequencer");
+    sequencer_ = named(new LinkLabel(this), "lblSequencer");
     sequencer_->setTextFormat(Qt::RichText); // a link around the plain text
     sequencer_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     auto* cmdSysInfo = named(new QPushButton(this), "cmdSysInfo");

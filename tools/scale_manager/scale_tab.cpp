@@ -149,9 +149,15 @@ void ScaleTab::paintEvent(QPaintEvent*) {
                          QString(QLatin1Char(letter)));
         y += LetterPixels + 5;
     }
-    if (!hasFocus() || labels_[keyboardAt_]->text().isEmpty()) return;
+    if (hasFocus()) paintFocusMark(painter);
+}
+
+// Around the note that the keyboard is at; around all while there are no notes.
+void ScaleTab::paintFocusMark(QPainter& painter) const {
+    const QLabel& label = *labels_[keyboardAt_];
+    const QRect place = label.text().isEmpty() ? rect().adjusted(1, 1, -1, -1) : label.geometry();
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    painter.drawRect(labels_[keyboardAt_]->geometry().adjusted(0, 0, -1, -1));
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
 }
 
 } // namespace tabrova

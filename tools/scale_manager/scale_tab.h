@@ -38,6 +38,7 @@ class ScaleTab : public QWidget {
     void click(std::size_t label);
     // To the next label with a note, in the direction of `step`; stays if there is none.
     void moveKeyboard(int step);
+    void paintFocusMark(QPainter& painter) const;
 
     std::array<QLabel*, Labels> labels_; // from the lowest string's first slot
     std::size_t keyboardAt_ = 0;
