@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QShowEvent>
 
 namespace tabrova {
 
@@ -144,7 +145,9 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
     : ToolWindow("frmAltSplash", context, parent) {
     setWindowTitle("Tabrova");
     setWindowModality(Qt::ApplicationModal);
+    setWindowFlag(Qt::WindowMinMaxButtonsHint, false);
     setFixedSize(PictureWidth, PictureHeight);
+    if (parent) parent->installEventFilter(this);
     setMouseTracking(true);
     // The picture itself has the keyboard at first, so that nothing is highlighted.
     setFocusPolicy(Qt::StrongFocus);
@@ -223,7 +226,22 @@ void frmAltSplash::run(SplashChoice choice) {
     }
 }
 
+void frmAltSplash::moveToMiddle() {
+    if (!parentWidget()) return;
+    QRect place = frameGeometry();
+    place.moveCenter(parentWidget()->frameGeometry().center());
+    move(place.topLeft());
+}
+
+void frmAltSplash::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) moveToMiddle();
+    ToolWindow::showEvent(event);
+}
+
+// The desktop may give the main window its place only once both are there.
 bool frmAltSplash::eventFilter(QObject* watched, QEvent* event) {
+    const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+    if (moved && watched == parentWidget()) moveToMiddle();
     for (int i = 0; i < 4; ++i) {
         if (watched != imgOptions_[static_cast<std::size_t>(i)]) continue;
         const QEvent::Type type = event->type();
@@ -237,6 +255,12 @@ void frmAltSplash::mousePressEvent(QMouseEvent*) { choose(SplashChoice::CloseWin
 
 void frmAltSplash::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) return choose(SplashChoice::CloseWindow);
+    const bool on = event->key() == Qt::Key_Right || event->key() == Qt::Key_Down;
+    const bool back = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up;
+    if (on || back) {
+        focusNextPrevChild(on);
+        return;
+    }
     ToolWindow::keyPressEvent(event);
 }
 

@@ -20,11 +20,15 @@ class frmAltSplash : public ToolWindow {
   protected:
     void takeMessage(std::string_view name, const QString& text) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    // The arrow keys move as the Tab key does; at an image they come from the image.
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    // Of the main window.
+    void moveToMiddle();
     void highlight(int index);
     // Once, for a click on an image, on the picture itself or for Escape: the window goes first.
     void choose(SplashChoice choice);

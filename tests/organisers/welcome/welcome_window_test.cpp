@@ -126,6 +126,42 @@ TEST_F(Welcome, ReturnAndSpacePressTheImageAndOtherKeysDoNot) {
     EXPECT_EQ(ways(), std::vector<Way>{Way::Learn});
 }
 
+TEST_F(Welcome, TheArrowKeysMoveFromImageToImageAndRoundTheEnds) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&splash));
+    for (const auto& [forth, back] : {std::pair{Qt::Key_Right, Qt::Key_Left}, {Qt::Key_Down, Qt::Key_Up}}) {
+        splash.setFocus();
+        for (const int index : {0, 1, 2, 3, 0}) {
+            QTest::keyClick(splash.windowHandle(), forth);
+            EXPECT_EQ(splash.focusWidget(), &option(index));
+            EXPECT_EQ(named(), option(index).toolTip());
+        }
+        splash.setFocus();
+        for (const int index : {3, 2, 1, 0, 3}) {
+            QTest::keyClick(splash.windowHandle(), back);
+            EXPECT_EQ(splash.focusWidget(), &option(index));
+        }
+    }
+    EXPECT_TRUE(ways().empty());
+}
+
+TEST_F(Welcome, HasACloseButtonInItsFrameAndNoOther) {
+    EXPECT_TRUE(splash.windowFlags() & Qt::WindowCloseButtonHint);
+    EXPECT_FALSE(splash.windowFlags() & Qt::WindowMinMaxButtonsHint);
+}
+
+TEST_F(Welcome, StandsInTheMiddleOfTheMainWindowAlsoWhenThatGetsItsPlaceLater) {
+    QWidget main;
+    main.setGeometry(40, 30, 700, 500);
+    main.show();
+    frmAltSplash other(context, &main);
+    other.Form_Load();
+    other.show();
+    EXPECT_EQ(other.frameGeometry().center(), main.frameGeometry().center());
+    main.setGeometry(10, 20, 760, 560);
+    QApplication::processEvents();
+    EXPECT_EQ(other.frameGeometry().center(), main.frameGeometry().center());
+}
+
 TEST_F(Welcome, APressOnThePictureClosesIt) {
     QTest::mouseClick(&splash, Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_EQ(ways(), std::vector<Way>{Way::CloseWindow});
