@@ -18,6 +18,7 @@ namespace tabrova {
 namespace {
 
 constexpr qsizetype LongestText = 250; // characters
+constexpr char NamedAfter[] = "namedAfter";
 
 // A caption as it is read: the sign of an access key is none of its letters, and two of them are one.
 QString spoken(const QString& caption) {
@@ -57,7 +58,22 @@ class FormControls {
         }
     }
 
+    // What shows no caption is called as its label is.
+    void nameTheRest() const {
+        for (QObject* control : controls_) {
+            if (auto* label = qobject_cast<QLabel*>(control); label && label->buddy())
+                nameAs(*label->buddy(), label->text());
+            const QString other = control->property(NamedAfter).toString().toLower();
+            auto* widget = qobject_cast<QWidget*>(control);
+            if (widget && !other.isEmpty()) nameAs(*widget, captionOf(controls_.value(other)));
+        }
+    }
+
   private:
+    static void nameAs(QWidget& widget, const QString& caption) {
+        if (!showsCaption(widget)) widget.setAccessibleName(spoken(caption).trimmed());
+    }
+
     void setCaption(const QString& name, const QString& text) const {
         const QList<QObject*> reached = reachedBy(name.toLower());
         if (reached.isEmpty()) return setTabCaption(name, text);
@@ -75,7 +91,22 @@ class FormControls {
             label->setText(text);
         }
         if (auto* group = qobject_cast<QGroupBox*>(control)) group->setTitle(text);
-        if (auto* line = qobject_cast<QLineEdit*>(control)) line->setText(text);
+        auto* widget = qobject_cast<QWidget*>(control);
+        if (auto* line = qobject_cast<QLineEdit*>(control))
+            line->setText(text);
+        else if (widget && !showsCaption(*widget))
+            widget->setAccessibleName(spoken(text)); // it is not seen
+    }
+
+    static bool showsCaption(const QWidget& widget) {
+        return qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QLabel*>(&widget) ||
+               qobject_cast<const QGroupBox*>(&widget);
+    }
+
+    static QString captionOf(const QObject* control) {
+        if (auto* action = qobject_cast<const QAction*>(control)) return action->text();
+        auto* label = qobject_cast<const QLabel*>(control);
+        return label ? label->text() : QString();
     }
 
     // A name without an index stands for all controls of an array.
@@ -101,7 +132,8 @@ class FormControls {
         const QString key = widget.property("key").toString();
         const QString hint = key.isEmpty() ? text : text + " (" + key + ")";
         widget.setToolTip(hint);
-        if (qobject_cast<QAbstractButton*>(&widget)) widget.setAccessibleName(hint);
+        const bool named = qobject_cast<QAbstractButton*>(&widget) || qobject_cast<QLineEdit*>(&widget);
+        if (named) widget.setAccessibleName(hint);
     }
 
     QWidget& form_;
@@ -113,9 +145,12 @@ void showTexts(QWidget& form, const std::filesystem::path& file, const MessageSi
     const FormControls controls(form);
     for (const LanguageText& each : languageTexts(form.objectName().toStdString(), file))
         controls.show(*each.line, QString::fromStdString(each.text).left(LongestText), message);
+    controls.nameTheRest();
 }
 
 } // namespace
+
+void nameAfter(QWidget* control, const char* captioned) { control->setProperty(NamedAfter, captioned); }
 
 void showBuiltInCaptions(QWidget& form, const MessageSink& message) { showTexts(form, {}, message); }
 

@@ -1,6 +1,7 @@
 #include "shell/bend_panel.h"
 
 #include "editing/key_codes.h"
+#include "forms/captions.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -55,6 +56,7 @@ BendPanel::BendPanel(QWidget* parent) : QFrame(parent) {
     zoom_.emplace(*this);
     BendCursor_ = new HighlightShape("BendCursor", this);
     showHighlight();
+    nameAfter(this, "Label1");
     hide();
 }
 

@@ -1,5 +1,6 @@
 #include "shell/fretboard_widget.h"
 
+#include "forms/captions.h"
 #include "shell/key_mapping.h"
 
 #include <QMouseEvent>
@@ -8,7 +9,7 @@ namespace tabrova {
 
 FretboardWidget::FretboardWidget(const Surface& surface, QWidget* parent)
     : SurfaceWidget("picFretboard", surface, parent) {
-    setAccessibleName(tr("Virtual fretboard"));
+    nameAfter(this, "mnuVirtualFretboard");
 }
 
 void FretboardWidget::mousePressEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #include "shell/main_panels.h"
 
+#include "forms/captions.h"
 #include "forms/named.h"
 #include "organisers/options/frmOptions.h"
 #include "shell/rects.h"
@@ -40,6 +41,8 @@ void MainPanels::build() {
     strip_ = new SurfaceWidget("picStandardNotation", bench_.view.picStandardNotation, client_);
     page_ = new PageWidget(bench_.view.picDocument, editor_.page(), client_);
     VScroll1_ = named(new QScrollBar(Qt::Vertical, client_), "VScroll1");
+    nameAfter(strip_, "mnuViewNotation");
+    nameAfter(VScroll1_, "mnuStaff");
     VScroll1_->setRange(1, 1);
     VScroll1_->setFocusPolicy(Qt::NoFocus);
     fretboard_ = new FretboardWidget(bench_.view.picFretboard, client_);

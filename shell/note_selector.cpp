@@ -1,6 +1,7 @@
 #include "shell/note_selector.h"
 
 #include "editing/fret_palette.h"
+#include "forms/captions.h"
 
 #include <QFontMetrics>
 #include <QLabel>
@@ -53,6 +54,7 @@ NoteSelector::NoteSelector(QWidget* parent) : QFrame(parent), highlight_(ParkedP
     shpNoteSelector_ = new HighlightShape("shpNoteSelector", this);
     shpNoteSelector_->lower();
     moveHighlight(ParkedPaletteHighlight);
+    nameAfter(this, "lblToolTip2(3)");
     hide();
 }
 

@@ -12,7 +12,6 @@ namespace tabrova {
 PageWidget::PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent)
     : SurfaceWidget("picDocument", surface, parent), objects_(objects) {
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Tablature page"));
     paintObjects = [this](QPainter& painter) { paintCursor(painter); };
 }
 

@@ -1,6 +1,7 @@
 #include "shell/repeat_panel.h"
 
 #include "core/document/bar_marks.h"
+#include "forms/captions.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,6 +28,7 @@ QLabel* addLabel(const char* name, const QRect& place, QWidget* panel) {
 RepeatScroller::RepeatScroller(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {
     setObjectName("RepeatScroller");
     setRange(1, MostRepeats);
+    nameAfter(this, "lblToolTip2(0)");
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -1,5 +1,6 @@
 #include "organisers/file_properties/frmFileProperties.h"
 
+#include "forms/captions.h"
 #include "forms/code_page_text.h"
 #include "forms/logo.h"
 #include "forms/named.h"
@@ -51,6 +52,7 @@ frmFileProperties::frmFileProperties(const ToolContext& context, QWidget* parent
     txtTitle_ = named(new QLineEdit(this), "txtTitle");
     txtAuthor_ = named(new QLineEdit(this), "txtAuthor");
     sldSpeed_ = named(new QSlider(Qt::Horizontal, this), "sldSpeed");
+    nameAfter(sldSpeed_, "Label3");
     sldSpeed_->setRange(SlowestSpeed, FastestSpeed);
     sldSpeed_->setSingleStep(1);
     sldSpeed_->setPageStep(LargeSpeedStep);

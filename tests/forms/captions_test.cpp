@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QDialog>
 #include <QGroupBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QTabWidget>
@@ -112,6 +113,50 @@ TEST_F(Captions, GoToMenusTabsGroupsAndToolTips) {
     EXPECT_EQ(item->text(), "&New");
     EXPECT_EQ(button->toolTip(), "New (Ctrl+N)");
     EXPECT_EQ(button->accessibleName(), "New (Ctrl+N)");
+}
+
+TEST_F(Captions, WhatShowsNoneIsCalledAsItsLabelIs) {
+    QDialog form;
+    form.setObjectName("frmFileProperties");
+    QWidget* box = named(new QLineEdit("A Song", &form), "txtTitle");
+    auto* button = named(new QPushButton("Change", &form), "button");
+    labelOf(box, "Label1", &form);
+    labelOf(button, "Label2", &form);
+    loadLanguage(form, folder());
+    EXPECT_EQ(box->accessibleName(), "Title:");
+    EXPECT_EQ(button->accessibleName(), ""); // its own caption
+    writeNumberedLines(343);
+    loadLanguage(form, folder());
+    EXPECT_EQ(box->accessibleName(), "222");
+}
+
+TEST_F(Captions, AControlIsCalledAsTheOneThatItIsNamedAfter) {
+    QWidget main;
+    main.setObjectName("frmMain");
+    QMenu menu(&main);
+    named(menu.addAction(""), "mnuStaff");
+    named(new QLabel(&main), "lblToolTip2(3)");
+    auto* bar = named(new QWidget(&main), "VScroll1");
+    auto* panel = named(new QWidget(&main), "picNoteSelector");
+    auto* page = named(new QWidget(&main), "picDocument");
+    auto* lost = named(new QWidget(&main), "lost");
+    nameAfter(bar, "mnuStaff");
+    nameAfter(panel, "lblToolTip2(3)");
+    nameAfter(lost, "nobody");
+    loadLanguage(main, folder());
+    EXPECT_EQ(bar->accessibleName(), "Staff");
+    EXPECT_EQ(panel->accessibleName(), "Choose a Fret:");
+    EXPECT_EQ(page->accessibleName(), "Tablature Page"); // its own line
+    EXPECT_EQ(lost->accessibleName(), "");
+}
+
+TEST_F(Captions, AnEntryIsCalledAsItsHintSays) {
+    QDialog form;
+    form.setObjectName("frmScaleWizard");
+    auto* box = named(new QLineEdit(&form), "Txt_flname");
+    loadLanguage(form, folder());
+    EXPECT_EQ(box->toolTip(), "Name of the Scale Type");
+    EXPECT_EQ(box->accessibleName(), "Name of the Scale Type");
 }
 
 TEST_F(Captions, MessagesGoToTheForm) {

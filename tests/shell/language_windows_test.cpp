@@ -36,6 +36,8 @@ class LanguageWindows : public testing::MainWindowTest {
         if (auto* label = qobject_cast<QLabel*>(control)) return label->text();
         if (auto* group = qobject_cast<QGroupBox*>(control)) return group->title();
         if (auto* box = qobject_cast<QLineEdit*>(control)) return box->text();
+        auto* silent = qobject_cast<QWidget*>(control);
+        if (silent && !qobject_cast<QTabWidget*>(silent)) return silent->accessibleName();
         const qsizetype bracket = name.indexOf('(');
         auto* tabs = qobject_cast<QTabWidget*>(controlNamed(form, name.left(bracket)));
         return tabs ? tabs->tabText(name.mid(bracket + 1, 1).toInt()) : "no such control";

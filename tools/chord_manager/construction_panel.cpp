@@ -1,6 +1,7 @@
 #include "tools/chord_manager/construction_panel.h"
 
 #include "core/text/conversions.h"
+#include "forms/captions.h"
 #include "forms/named.h"
 
 #include <QCheckBox>
@@ -41,6 +42,7 @@ ConstructionPanel::ConstructionPanel(QWidget* parent) : QFrame(parent) {
     Label11_->setBackgroundRole(QPalette::Window);
     VScroll1_ = named(new QScrollBar(Qt::Vertical, Picture2_), "VScroll1");
     VScroll1_->setFocusPolicy(Qt::NoFocus);
+    nameAfter(VScroll1_, "Label11");
     connect(VScroll1_, &QScrollBar::valueChanged, this, [this](int value) { VScroll1_Change(value); });
     arrange();
 }

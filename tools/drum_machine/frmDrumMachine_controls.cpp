@@ -1,4 +1,5 @@
 // How the drum machine's controls are made, placed and connected.
+#include "forms/captions.h"
 #include "forms/logo.h"
 #include "forms/named.h"
 #include "tools/drum_machine/drum_rows.h"
@@ -53,6 +54,7 @@ QLayout* frmDrumMachine::buildPattern() {
     Text1_->setAlignment(Qt::AlignCenter);
     Text1_->setFixedWidth(QFontMetrics(large).horizontalAdvance("000") + 2 * Gap);
     sldPattern_ = slider("sldPattern", 0, SongPatterns - 1, this);
+    nameAfter(sldPattern_, "Label1");
     sldPattern_->setPageStep(PatternSteps);
     picPatterns_ = new PatternStrip(*sldPattern_, this);
     lblSteps_ = named(new QLabel(this), "lblSteps");
@@ -70,6 +72,7 @@ QLayout* frmDrumMachine::buildPattern() {
 
 QLayout* frmDrumMachine::buildSpeed() {
     sldSpeed_ = slider("sldSpeed", SlowestSteps, FastestSteps, this);
+    nameAfter(sldSpeed_, "Label2");
     sldSpeed_->setPageStep(SpeedStep);
     sldSpeed_->setValue(machine_.song.speed);
     spnSpeed_ = named(new QSpinBox(this), "spnSpeed");

@@ -15,6 +15,7 @@ constexpr char DefaultName[] = "(new scale)";
 constexpr int LongestName = 20;
 constexpr char NoNoteEntry[] = "-";
 constexpr std::array StringLetters = {"E", "A", "D", "G", "B", "E"};
+constexpr std::array SpokenStrings = {"Low E", "A", "D", "G", "B", "High E"};
 constexpr int Gap = 12;
 
 // What it shows is chosen whenever the box takes the focus or is clicked: the next key replaces it.
@@ -78,6 +79,7 @@ QWidget* NewScalePanel::buildBoxes() {
         for (std::size_t slot = 0; slot < ScaleSlots; ++slot) {
             auto* box =
                 named(new SlotBox(boxes), QString("%1(%2)").arg(ScaleStringTable[string].entries).arg(slot));
+            box->setAccessibleName(QString("%1 %2").arg(SpokenStrings[string]).arg(slot + 1));
             grid->addWidget(box, row, static_cast<int>(slot) + 1);
             boxes_[string][slot] = box;
         }
