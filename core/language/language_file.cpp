@@ -1,5 +1,6 @@
 #include "core/language/language_file.h"
 
+#include "core/files/folder_entries.h"
 #include "core/files/text_lines.h"
 
 namespace tabrova {
@@ -10,6 +11,21 @@ std::filesystem::path activeLanguageFile(const std::filesystem::path& programFol
 
 std::filesystem::path installedLanguages(const std::filesystem::path& programFolder) {
     return programFolder / "languages";
+}
+
+std::filesystem::path languageInUse(const std::filesystem::path& programFolder) {
+    constexpr std::size_t MostLines = 10000;
+    const std::vector<std::string> active = readTextLines(activeLanguageFile(programFolder), MostLines);
+    if (active.empty()) return {};
+    std::filesystem::path sameName;
+    const std::filesystem::path folder = installedLanguages(programFolder);
+    for (const std::filesystem::path& name : listEntries(folder, EntryKind::Folders)) {
+        const std::vector<std::string> lines = readTextLines(folder / name / "lang.trl", MostLines);
+        if (lines == active) return name;
+        const bool named = active.size() > 1 && lines.size() > 1 && !active[1].empty();
+        if (named && sameName.empty() && lines[1] == active[1]) sameName = name;
+    }
+    return sameName;
 }
 
 std::vector<LanguageText> languageTexts(std::string_view form, const std::filesystem::path& file) {

@@ -12,6 +12,9 @@ namespace tabrova {
 std::filesystem::path activeLanguageFile(const std::filesystem::path& programFolder);
 // A folder with a folder for each language.
 std::filesystem::path installedLanguages(const std::filesystem::path& programFolder);
+// The name of the installed language that the active file is a copy of, or at least calls itself by in its
+// second line; empty if there is none.
+std::filesystem::path languageInUse(const std::filesystem::path& programFolder);
 
 struct LanguageText {
     const LanguageLine* line;

@@ -77,6 +77,7 @@ constexpr LanguageLine Options[] = {
     message(455, "loading", "loading..."),
     message(456, "none", "none"),
     message(457, "notInUse", "not in use"),
+    caption(565, "cmdClose", "Close"),
 };
 
 constexpr LanguageLine Websites[] = {

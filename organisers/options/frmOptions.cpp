@@ -3,6 +3,7 @@
 #include "core/files/text_lines.h"
 #include "core/language/language_file.h"
 #include "forms/plain_tool_tips.h"
+#include "organisers/options/language_mark.h"
 #include "platform/paths.h"
 #include "sound/pitch.h"
 #include "workbench/sound_words.h"
@@ -57,6 +58,7 @@ void frmOptions::takeMessage(std::string_view name, const QString& text) {
 
 void frmOptions::Form_Opened(const ToolOpener::Opening& opening) {
     OptionsTabs_->setCurrentIndex(opening.tab);
+    markLanguageInUse();
 }
 
 void frmOptions::listLanguages() {
@@ -64,6 +66,12 @@ void frmOptions::listLanguages() {
     const std::filesystem::path folder = installedLanguages(services().programFolder);
     std::filesystem::create_directory(folder, failed);
     lstLanguages_->showFolder(folder);
+    markLanguageInUse();
+}
+
+void frmOptions::markLanguageInUse() {
+    languageMark_->setLanguage(textOf(languageInUse(services().programFolder)));
+    lstLanguages_->viewport()->update();
 }
 
 // The active language goes even if no other one can take its place.
@@ -75,6 +83,7 @@ void frmOptions::lstLanguages_DblClick() {
     std::filesystem::remove(active, failed);
     copyTextFile(installedLanguages(services().programFolder) / name / "lang.trl", active);
     LoadLanguage();
+    markLanguageInUse();
     showSynthesizer();
     context_.commands.language.languageApplied();
 }

@@ -16,6 +16,8 @@ class QTabWidget;
 
 namespace tabrova {
 
+class LanguageMark;
+
 // Its tabs, as they are asked for.
 struct OptionsTab {
     static constexpr int Sound = 0;
@@ -39,10 +41,12 @@ class frmOptions : public ToolWindow {
     QGroupBox* buildSynthesizerBox();
     QWidget* buildAppearanceTab();
     QWidget* buildCursorBox();
+    QPushButton* buildCloseButton();
     void connectSound();
     void connectAppearance();
 
     void listLanguages();
+    void markLanguageInUse();
     void chooseStoredDevice();
     void lst_Devices_Click();
     void lstLanguages_DblClick();
@@ -72,6 +76,7 @@ class frmOptions : public ToolWindow {
     QCheckBox* Check1_;
     QCheckBox* Check2_;
     FolderList* lstLanguages_;
+    LanguageMark* languageMark_;
 };
 
 } // namespace tabrova

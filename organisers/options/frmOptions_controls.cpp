@@ -2,6 +2,7 @@
 #include "organisers/options/frmOptions.h"
 
 #include "forms/named.h"
+#include "organisers/options/language_mark.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -40,7 +41,14 @@ frmOptions::frmOptions(const ToolContext& context, QWidget* parent)
     OptionsTabs_->addTab(buildAppearanceTab(), QString());
     auto* column = new QVBoxLayout(this);
     column->addWidget(OptionsTabs_);
-    resize(480, 470);
+    column->addWidget(buildCloseButton(), 0, Qt::AlignRight);
+    resize(480, 500);
+}
+
+QPushButton* frmOptions::buildCloseButton() {
+    auto* cmdClose = named(new QPushButton(this), "cmdClose");
+    connect(cmdClose, &QPushButton::clicked, this, &QDialog::close);
+    return cmdClose;
 }
 
 QWidget* frmOptions::buildSoundTab() {
@@ -97,6 +105,8 @@ QWidget* frmOptions::buildAppearanceTab() {
     Check2_ = named(new QCheckBox(tab), "Check2");
     Check2_->hide();
     lstLanguages_ = new FolderList("lstLanguages", EntryKind::Folders, tab);
+    languageMark_ = new LanguageMark(lstLanguages_);
+    lstLanguages_->setItemDelegate(languageMark_);
     auto* column = new QVBoxLayout(tab);
     column->setContentsMargins(Gap, Gap, Gap, Gap);
     column->addWidget(cursorBox);

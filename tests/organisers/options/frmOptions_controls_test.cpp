@@ -46,10 +46,10 @@ class OptionsControls : public testing::ToolBench {
     frmOptions form{context, nullptr};
 };
 
-TEST_F(OptionsControls, StandOnTwoTabsInAWindowOf480By470) {
-    EXPECT_EQ(form.size(), QSize(480, 470));
+TEST_F(OptionsControls, StandOnTwoTabsInAWindowOf480By500) {
+    EXPECT_EQ(form.size(), QSize(480, 500));
     EXPECT_EQ(tabs().count(), 2);
-    EXPECT_EQ(text(described(layoutOf<QVBoxLayout>(form))), "OptionsTabs stretch 0\n");
+    EXPECT_EQ(text(described(layoutOf<QVBoxLayout>(form))), "OptionsTabs stretch 0\ncmdClose stretch 0\n");
     load();
     form.Form_Opened({nullptr, OptionsTab::Appearance});
     EXPECT_EQ(tabs().currentIndex(), 1);
@@ -204,6 +204,45 @@ TEST_F(OptionsControls, ADoubleClickedLanguageBecomesTheActiveOne) {
     languages.DoubleClick();
     EXPECT_EQ(watcher.languages, 2);
     EXPECT_FALSE(std::filesystem::exists(services.programFolder / "lang.trl"));
+}
+
+TEST_F(OptionsControls, TheLanguageInUseIsMarkedWhereverItStandsAndTheNamesStayPlain) {
+    for (const char* name : {"Deutsch", "english"})
+        std::ofstream(services.programFolder / "languages" / name / "lang.trl") << "Tabrova\n"
+                                                                                << name << "\n";
+    std::ofstream(services.programFolder / "lang.trl") << "Tabrova\nenglish\n";
+    load();
+    form.Form_Opened({nullptr, OptionsTab::Appearance});
+    auto& languages = at<ListBox>("lstLanguages");
+    const auto row = [&](int at) {
+        return languages.viewport()->grab(languages.visualItemRect(languages.item(at))).toImage();
+    };
+    const QImage plain = row(0), marked = row(1);
+    languages.setCurrentRow(0);
+    languages.DoubleClick();
+    languages.setCurrentRow(-1);
+    EXPECT_TRUE(row(0) != plain);
+    EXPECT_TRUE(row(1) != marked);
+    std::filesystem::create_directories(services.programFolder / "languages" / "Catalan");
+    dynamic_cast<FolderList&>(languages).readAgain();
+    EXPECT_EQ(languages.item(1)->text(), "Deutsch");
+    EXPECT_TRUE(row(0) != row(1));
+    std::filesystem::copy_file(services.programFolder / "languages" / "english" / "lang.trl",
+                               services.programFolder / "lang.trl",
+                               std::filesystem::copy_options::overwrite_existing);
+    form.Form_Opened({nullptr, OptionsTab::Appearance});
+    EXPECT_TRUE(row(2) == marked);
+    EXPECT_EQ(languages.chosenRow(), -1);
+}
+
+TEST_F(OptionsControls, TheCloseButtonStandsAtTheLowerRightAndCloses) {
+    load();
+    const QRect place = at("cmdClose").geometry();
+    EXPECT_GT(place.top(), tabs().geometry().bottom());
+    EXPECT_EQ(place.right(), tabs().geometry().right());
+    EXPECT_LT(place.width(), 200);
+    QTest::mouseClick(&at("cmdClose"), Qt::LeftButton);
+    EXPECT_FALSE(form.isVisible());
 }
 
 TEST_F(OptionsControls, TroubleIsShownOnlyWhileTheSynthesizerRuns) {
