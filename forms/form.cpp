@@ -93,6 +93,8 @@ void Form::settleControls() {
 }
 
 void Form::showEvent(QShowEvent* event) {
+    // On a small screen the toolkit would open it smaller than its controls ask for.
+    if (!event->spontaneous() && !testAttribute(Qt::WA_Resized)) resize(sizeHint());
     QDialog::showEvent(event);
     if (event->spontaneous()) return; // it only comes back from the task bar
     settleControls();

@@ -29,6 +29,28 @@ class TextForm : public Form {
     }
 };
 
+class LargeControl : public QWidget {
+  public:
+    using QWidget::QWidget;
+    QSize sizeHint() const override { return {700, 650}; }
+};
+
+TEST_F(Forms, OpenAsLargeAsTheirControlsAskForHoweverSmallTheScreenIs) {
+    DemoForm large(folder());
+    auto* control = large.add<LargeControl>("large");
+    large.show();
+    EXPECT_EQ(control->size(), QSize(700, 650));
+    large.hide();
+    large.resize(500, 400);
+    large.show();
+    EXPECT_EQ(large.size(), QSize(500, 400));
+    DemoForm small(folder());
+    small.add<LargeControl>("large");
+    small.resize(300, 200);
+    small.show();
+    EXPECT_EQ(small.size(), QSize(300, 200));
+}
+
 TEST_F(Forms, TakeTheirTextsWhenTheyLoad) {
     TextForm metronome("frmMetronome", folder(), nullptr);
     auto* label = named(new QLabel(&metronome), "Label1");

@@ -114,7 +114,9 @@ class EveryWindowTest : public MainWindowTest {
             press("frmChordWizard", "Command1");
         } else if (is("frmPercussion")) {
             window->document().GuitarTrackFlags.front() = 0;
-            QTest::mouseDClick(control<QWidget>(*window, "picDocument"), Qt::LeftButton);
+            auto* page = control<QWidget>(*window, "picDocument");
+            QTest::mouseDClick(page, Qt::LeftButton);
+            QTest::mouseRelease(page, Qt::LeftButton);
         } else if (is("frmAltSplash")) {
             window->Form_Load({}, frmMain::Splash::AsSettingsSay);
         } else {
