@@ -197,7 +197,7 @@ constexpr LanguageLine Lines[] = {
     message(576, "examples", "Examples"),
     message(577, "fileGone", "This file is not there any more:"),
     message(578, "toolkit", "en"),
-    caption(560, "picDocument", "Tablature Page"),
+    caption(579, "picDocument", "Tablature Page"),
 };
 
 } // namespace

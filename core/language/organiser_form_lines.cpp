@@ -77,14 +77,14 @@ constexpr LanguageLine Options[] = {
     message(455, "loading", "loading..."),
     message(456, "none", "none"),
     message(457, "notInUse", "not in use"),
-    caption(565, "cmdClose", "Close"),
+    caption(584, "cmdClose", "Close"),
 };
 
 constexpr LanguageLine Websites[] = {
     title(319, "Tabrova - Website Manager"),         caption(320, "Command1", "Save this Entry"),
     caption(321, "Command2", "Go to Selected Site"), caption(322, "Command3", "Delete Selected Entry"),
     caption(460, "Label1", "Description:"),          caption(461, "Label2", "URL:"),
-    caption(462, "Label3", "Entry Name:"),           caption(567, "sitesList", "Websites"),
+    caption(462, "Label3", "Entry Name:"),           caption(586, "sitesList", "Websites"),
 };
 
 constexpr FormLines Forms[] = {

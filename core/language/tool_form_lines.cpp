@@ -108,7 +108,7 @@ constexpr LanguageLine ChordWizard[] = {
     caption(501, "cCheck(19)", "Perfect 5th"),
     caption(502, "cCheck(20)", "Minor 13th"),
     caption(503, "cCheck(21)", "Major 13th"),
-    caption(566, "lst_Chords", "User Chords"),
+    caption(585, "lst_Chords", "User Chords"),
 };
 
 constexpr LanguageLine DrumMachine[] = {
@@ -150,7 +150,7 @@ constexpr LanguageLine Percussion[] = {
     toolTip(432, "Image3", "Move Left"),
     toolTip(433, "Image4", "Move Up"),
     toolTip(434, "Image6", "Delete Note"),
-    caption(561, "List1", "Drums"),
+    caption(580, "List1", "Drums"),
 };
 
 constexpr LanguageLine ScaleWizard[] = {
@@ -160,9 +160,9 @@ constexpr LanguageLine ScaleWizard[] = {
     caption(288, "Command2", "Delete Selected Scale Type"),
     caption(289, "Label2", "Set the tablature for your new scale type in the key of E and click Save."),
     caption(290, "Command1", "Save this Scale Type"),
-    caption(562, "ScKey", "Keys"),
-    caption(563, "scType", "Scale Types"),
-    toolTip(564, "Txt_flname", "Name of the Scale Type"),
+    caption(581, "ScKey", "Keys"),
+    caption(582, "scType", "Scale Types"),
+    toolTip(583, "Txt_flname", "Name of the Scale Type"),
 };
 
 constexpr LanguageLine TuningManager[] = {
