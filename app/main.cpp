@@ -9,6 +9,7 @@
 #include "sound/devices/system_midi_device.h"
 
 #include <QApplication>
+#include <QIcon>
 
 #include <cstdio>
 #include <cstdlib>
@@ -36,10 +37,20 @@ tabrova::CommandLine read(int argc, char** argv) {
     return tabrova::readCommandLine(tabrova::commandLineWords(argc, argv), tabrova::isThere);
 }
 
+// In the windows' frames and in the task bar; a desktop takes its own from the name of the program's entry.
+void showProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icon/tabrova-%1.png").arg(size), {size, size});
+    QApplication::setWindowIcon(icon);
+    QGuiApplication::setDesktopFileName("tabrova");
+}
+
 // Runs the program; `code` is its exit code. False if a server has not let go of what it was asked.
 bool run(int argc, char** argv, int& code) {
     tabrova::prepareToolkit();
     QApplication application(argc, argv);
+    showProgramIcon();
     const tabrova::EndSignals endSignals([] { QCoreApplication::exit(0); });
     tabrova::keepToolkitInsideHome();
     tabrova::DesktopSettingsStore settings;

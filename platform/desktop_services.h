@@ -18,6 +18,7 @@ struct DesktopServices {
     // What is handed in must outlive the result.
     Services services(SettingsStore& settings, MidiDevice& midi, Synthesizer& synthesizer,
                       const std::filesystem::path& folder, std::function<void()> endProgram) {
+        files.rememberIn(settings);
         return Services{boxes,
                         files,
                         addresses,

@@ -28,13 +28,24 @@ std::optional<QString> DesktopFileChooser::choose(const FileQuestion& question) 
     dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setNameFilters(nameFilters(question.filter));
     if (saving) dialog.setDefaultSuffix(question.defaultExtension);
-    if (!question.name.isEmpty()) {
-        const QFileInfo file(question.name);
-        dialog.setDirectory(file.absolutePath());
-        dialog.selectFile(file.fileName());
-    }
+    dialog.setDirectory(folderFor(question.name));
+    if (!question.name.isEmpty()) dialog.selectFile(QFileInfo(question.name).fileName());
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    remember(dialog.selectedFiles().constFirst());
     return dialog.selectedFiles().constFirst();
+}
+
+// A remembered folder that is gone is none.
+QString DesktopFileChooser::folderFor(const QString& name) const {
+    const QFileInfo file(name);
+    const bool placed = !name.isEmpty() && file.path() != ".";
+    const QString last = settings_ ? settings_->GetSetting("Files", "Folder", folder_) : folder_;
+    return !placed && QFileInfo(last).isDir() ? last : file.absolutePath();
+}
+
+void DesktopFileChooser::remember(const QString& file) {
+    folder_ = QFileInfo(file).absolutePath();
+    if (settings_) settings_->SaveSetting("Files", "Folder", folder_);
 }
 
 std::optional<QString> RecordingFileChooser::choose(const FileQuestion& question) {

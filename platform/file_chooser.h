@@ -1,6 +1,8 @@
 // File choosers: a question for one path, to open or to save under.
 #pragma once
 
+#include "platform/settings_store.h"
+
 #include <QList>
 #include <QString>
 
@@ -24,9 +26,20 @@ class FileChooser {
     virtual std::optional<QString> choose(const FileQuestion& question) = 0;
 };
 
+// Opens where the last file was chosen, if the question names none; that folder is remembered in the
+// settings.
 class DesktopFileChooser : public FileChooser {
   public:
     std::optional<QString> choose(const FileQuestion& question) override;
+    // The store must outlive the chooser; without one the folder is forgotten with the program.
+    void rememberIn(SettingsStore& settings) { settings_ = &settings; }
+
+  private:
+    QString folderFor(const QString& name) const;
+    void remember(const QString& file);
+
+    SettingsStore* settings_ = nullptr;
+    QString folder_;
 };
 
 // Answers from a queue, by cancelling when it is empty, and keeps what was asked.

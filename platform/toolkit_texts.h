@@ -5,8 +5,8 @@
 
 namespace tabrova {
 
-// "de", or "pt_BR" for a language as a country speaks it. A language that the toolkit does not have leaves its
-// English. Needs the application object.
+// "de", or "pt_BR" for a language as a country speaks it. A language that the toolkit does not have leaves
+// its English. Needs the application object.
 void showToolkitTextsIn(const QString& language);
 
 } // namespace tabrova

@@ -121,7 +121,7 @@ void DocumentCommands::readNamedDocument() {
     bench_.acts.changes().trackPanel = true;
 }
 
-void DocumentCommands::openFile(const QString& path) {
+void DocumentCommands::openFile(const QString& path, Leaving leaving) {
     std::error_code failed;
     if (!std::filesystem::is_regular_file(pathOf(path), failed)) {
         const Act act(bench_.acts, "openFile");
@@ -132,7 +132,7 @@ void DocumentCommands::openFile(const QString& path) {
             {BoxTitle, QString::fromStdString(bench_.words.fileGone) + "\n" + path, BoxIcon::Information});
         return;
     }
-    if (!confirmLeaving()) return;
+    if (leaving == Leaving::WithAQuestion && !confirmLeaving()) return;
     CommonDialog1.fileName = path;
     OpenDocNoConfirm(false);
 }

@@ -14,6 +14,9 @@ struct CommonDialog {
     QString fileName;
 };
 
+// How the document is left for another one.
+enum class Leaving { WithAQuestion, WithoutAQuestion };
+
 class DocumentCommands {
   public:
     DocumentCommands(Workbench& bench, ToolOpener& tools, const MenuState& menus);
@@ -33,8 +36,9 @@ class DocumentCommands {
     // Reads without asking to save; `showDialog` asks for the file first, else the dialog's name serves.
     void OpenDocNoConfirm(bool showDialog);
     void OpenCommandLineDocument(const QString& path);
-    // Asks to save, then reads this file. One that is gone is told and leaves the list of recent documents.
-    void openFile(const QString& path);
+    // Asks to save, unless told not to, then reads this file. One that is gone is told and leaves the list of
+    // recent documents.
+    void openFile(const QString& path, Leaving leaving = Leaving::WithAQuestion);
 
     // The question before the document goes. Yes has already saved when this returns; false: the user
     // cancelled.

@@ -1,5 +1,7 @@
 #include "organisers/welcome/frmAltSplash.h"
 
+#include "organisers/welcome/document_lists.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -11,6 +13,7 @@ namespace {
 
 constexpr int PictureWidth = 520;
 constexpr int PictureHeight = 320;
+constexpr int DocumentsHeight = 168; // below the picture
 constexpr int OptionSize = 96;
 constexpr int DrawingSize = OptionSize - 8;
 constexpr int OptionTop = 132;
@@ -147,6 +150,7 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::WindowMinMaxButtonsHint, false);
     setFixedSize(PictureWidth, PictureHeight);
+    offerDocuments();
     if (parent) parent->installEventFilter(this);
     setMouseTracking(true);
     // The picture itself has the keyboard at first, so that nothing is highlighted.
@@ -170,6 +174,16 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
     lblTooltip_->setGeometry(0, OptionTop + OptionSize + 24, PictureWidth, 30);
 }
 
+void frmAltSplash::offerDocuments() {
+    auto* documents = new DocumentLists(context_, this);
+    documents->setGeometry(0, PictureHeight, PictureWidth, DocumentsHeight);
+    documents->setVisible(!documents->isEmpty());
+    documents->chosen = [this](const QString& file) {
+        leaveTo([this, file] { context_.commands.documents.openFile(file, Leaving::WithoutAQuestion); });
+    };
+    if (!documents->isEmpty()) setFixedSize(PictureWidth, PictureHeight + DocumentsHeight);
+}
+
 void frmAltSplash::takeMessage(std::string_view message, const QString& text) {
     for (std::size_t index = 0; index < imgOptions_.size(); ++index) {
         if (message != Options[index].message) continue;
@@ -180,7 +194,7 @@ void frmAltSplash::takeMessage(std::string_view message, const QString& text) {
 
 void frmAltSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    QLinearGradient wood(0, 0, 0, height());
+    QLinearGradient wood(0, 0, 0, PictureHeight);
     wood.setColorAt(0, QColor(0x3B, 0x26, 0x1A));
     wood.setColorAt(1, QColor(0x1E, 0x13, 0x0D));
     painter.fillRect(rect(), wood);
@@ -202,11 +216,15 @@ void frmAltSplash::highlight(int index) {
 }
 
 void frmAltSplash::choose(SplashChoice choice) {
+    leaveTo([this, choice] { run(choice); });
+}
+
+void frmAltSplash::leaveTo(const std::function<void()>& act) {
     if (done_) return;
     done_ = true;
     close();
     context_.tools.showMain();
-    run(choice);
+    act();
     editor().focusPage();
 }
 

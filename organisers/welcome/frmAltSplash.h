@@ -1,5 +1,5 @@
 // `frmAltSplash`, the welcome window: a picture with four hot images, a highlight under the mouse and a line
-// that names what is there.
+// that names what is there; below it the documents that were opened last, and the examples.
 #pragma once
 
 #include "forms/picture_button.h"
@@ -32,6 +32,8 @@ class frmAltSplash : public ToolWindow {
     void highlight(int index);
     // Once, for a click on an image, on the picture itself or for Escape: the window goes first.
     void choose(SplashChoice choice);
+    void leaveTo(const std::function<void()>& act);
+    void offerDocuments();
     void run(SplashChoice choice);
 
     std::array<QWidget*, 4> imgOptions_{};

@@ -45,6 +45,36 @@ TEST_F(RealChooser, SavesUnderTheDefaultExtensionWhereTheNameHasNone) {
     EXPECT_EQ(answerToName(FileQuestion::Kind::Save, "song.txt"), path("song.txt"));
 }
 
+TEST_F(RealChooser, OpensWhereTheLastFileWasChosen) {
+    MemorySettingsStore settings;
+    QTemporaryDir other;
+    const QString elsewhere = QDir(other.path()).canonicalPath();
+    FileQuestion asked = question(FileQuestion::Kind::Save);
+    chooser.rememberIn(settings);
+    answerTo(asked, [&](QFileDialog& dialog) { enter(dialog, elsewhere + "/song.tr3"); });
+    EXPECT_EQ(settings.GetSetting("Files", "Folder", ""), elsewhere);
+    const auto openedIn = [&](const QString& name) {
+        asked.name = name;
+        QString shown;
+        answerTo(asked, [&shown](QFileDialog& dialog) {
+            shown = dialog.directory().canonicalPath() + "|" +
+                    dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+            dialog.reject();
+        });
+        return shown;
+    };
+    EXPECT_EQ(openedIn(""), elsewhere + "|");
+    EXPECT_EQ(openedIn("proposed.tr3"), elsewhere + "|proposed.tr3");
+    EXPECT_EQ(openedIn(path("shown.tr3")), QDir(folder.path()).canonicalPath() + "|shown.tr3")
+        << "a place of its own";
+    DesktopFileChooser next;
+    next.rememberIn(settings);
+    std::swap(chooser, next);
+    EXPECT_EQ(openedIn(""), elsewhere + "|") << "the next run";
+    settings.SaveSetting("Files", "Folder", elsewhere + "/gone");
+    EXPECT_NE(openedIn(""), elsewhere + "/gone|");
+}
+
 TEST_F(RealChooser, OpensAFileWithoutAnExtensionUnderItsOwnName) {
     makeFile("song");
     makeFile("song.tr3");
