@@ -180,7 +180,7 @@ MainMenu::MainMenu(QMenuBar& bar) {
             action = menu->menuAction();
         } else {
             action = parent->addAction(QString());
-            action->setShortcuts(QKeySequence::listFromString(row.shortcuts));
+            if (*row.shortcuts) action->setShortcuts(QKeySequence::listFromString(row.shortcuts));
             if (row.keys == Keys::OfThePage) action->setShortcutContext(Qt::WidgetShortcut);
             action->setCheckable(row.kind == Kind::Check);
             action->setEnabled(false);

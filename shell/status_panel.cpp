@@ -33,6 +33,7 @@ void StatusPanel::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     QStyleOptionFocusRect mark;
     mark.initFrom(this);
+    mark.state |= QStyle::State_KeyboardFocusChange; // no mouse brings the keyboard here
     mark.backgroundColor = palette().color(QPalette::Window);
     style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &painter, this);
 }

@@ -19,7 +19,9 @@ void SurfaceWidget::setZoom(qreal zoom) {
 }
 
 QPoint SurfaceWidget::pixelAt(const QMouseEvent& event) const {
-    return {qFloor(event.position().x() / zoom_), qFloor(event.position().y() / zoom_)};
+    // The middle of the screen's pixel, which may lie on two logical ones.
+    const qreal middle = zoom_ == 1.0 ? 0.0 : 0.5 / devicePixelRatioF();
+    return {qFloor((event.position().x() + middle) / zoom_), qFloor((event.position().y() + middle) / zoom_)};
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {

@@ -127,7 +127,9 @@ void frmHelp::showTopic(int row) {
 
 void frmHelp::Form_Opened(const ToolOpener::Opening& opening) {
     cmdKeys_->setText(QString::fromStdString(context_.words.keys));
-    if (opening.tab == HelpPage::Keys) showKeys();
+    const bool keys = opening.tab == HelpPage::Keys;
+    setFirstFocus(keys ? static_cast<QWidget*>(lstKeys_) : lstTopics_);
+    if (keys) showKeys();
 }
 
 void frmHelp::showKeys() {

@@ -29,6 +29,10 @@ DocumentLists::DocumentLists(const ToolContext& context, QWidget* parent) : QWid
         addRow(Recent, textOf(pathOf(file).filename()), file);
     for (const ExampleDocument& example : exampleDocuments(context.services.programFolder))
         addRow(Examples, example.name, example.file);
+    for (ListBox* box : lists_) {
+        box->setVisible(box->count() > 0);
+        findChild<QLabel*>("lbl" + box->objectName().mid(3))->setVisible(box->count() > 0);
+    }
 }
 
 ListBox* DocumentLists::addList(int list, const QString& name, const QString& title) {
@@ -39,6 +43,7 @@ ListBox* DocumentLists::addList(int list, const QString& name, const QString& ti
     label->setTextFormat(Qt::PlainText);
     label->setText(title);
     auto* column = new QVBoxLayout;
+    column->setSpacing(4);
     column->addWidget(label);
     column->addWidget(box, 1);
     static_cast<QHBoxLayout*>(layout())->addLayout(column, 1);

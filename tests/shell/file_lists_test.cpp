@@ -33,6 +33,7 @@ class FileMenu : public testing::MainWindowTest {
         return enter.isAccepted();
     }
     void drop(const QMimeData& data) {
+        offered(data);
         QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(window.get(), &event);
     }
@@ -101,6 +102,7 @@ TEST_F(FileMenu, ADroppedDocumentIsOpenedAfterTheQuestion) {
     boxes.queueAnswer(BoxAnswer::No);
     drop(data);
     QApplication::processEvents();
+    EXPECT_EQ(boxes.take().size(), 1);
     EXPECT_EQ(title(), "dropped one");
 }
 

@@ -55,11 +55,11 @@ TEST_F(KeyPage, HoldsTheToolbarsKeysAndThePagesOwn) {
     EXPECT_EQ(keys("Save As"), "Ctrl+Shift+S");
     EXPECT_EQ(keys("Tools"), "") << "a heading";
     EXPECT_EQ(found.count("Help"), 1u);
-    for (const QToolButton* button : window->findChildren<QToolButton*>())
-        if (const QString key = button->property("key").toString(); key.size() == 1)
-            EXPECT_TRUE(std::ranges::any_of(found, [&key](const auto& row) {
-                return row.second == key.toStdString();
-            })) << key.toStdString();
+    for (const QToolButton* button : window->findChildren<QToolButton*>()) {
+        const std::string key = button->property("key").toString().toStdString();
+        const bool there = std::ranges::any_of(found, [&key](const auto& row) { return row.second == key; });
+        EXPECT_TRUE(there || key.size() != 1) << key;
+    }
 }
 
 TEST_F(KeyPage, NoTwoCommandsShareAShortcut) {
@@ -82,8 +82,9 @@ TEST_F(KeyPage, OpensFromTheMenuAndFromItsButton) {
     EXPECT_EQ(control<QLabel>(*help, "lblTitle")->text(), "Keys");
     EXPECT_EQ(list->topLevelItemCount(), static_cast<int>(keyRows(*window, window->bench().words).size()));
     EXPECT_EQ(help->focusWidget(), list);
-    EXPECT_GE(list->viewport()->width(), list->sizeHintForColumn(0) + list->sizeHintForColumn(1));
+    EXPECT_GE(list->viewport()->width(), list->columnWidth(0) + list->columnWidth(1));
     help->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     trigger("mnuHelpContents");
     help = form("frmHelp");
     EXPECT_FALSE(control<QTreeWidget>(*help, "lstKeys")->isVisible());

@@ -210,7 +210,8 @@ TEST(StatusPanels, TakeTheRoomOfTheirTextsAndLeaveTheThirdTheRest) {
     const auto& row = *qobject_cast<QHBoxLayout*>(bar.layout());
     EXPECT_EQ(margins(row).toStdString(), "8 7 8 0");
     EXPECT_EQ(row.spacing(), 16);
-    EXPECT_EQ(text(described(row)), "StatusBar1(1) stretch 0\nStatusBar1(2) stretch 0\nStatusBar1(3) stretch 1\n");
+    EXPECT_EQ(text(described(row)),
+              "StatusBar1(1) stretch 0\nStatusBar1(2) stretch 0\nStatusBar1(3) stretch 1\n");
     EXPECT_TRUE(bar.autoFillBackground());
     for (const char* name : {"StatusBar1(1)", "StatusBar1(2)", "StatusBar1(3)"}) {
         const auto& panel = in<QLabel>(bar, name);

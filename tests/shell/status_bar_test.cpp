@@ -4,6 +4,8 @@
 #include "organisers/options/frmOptions.h"
 #include "shell/status_bar.h"
 
+#include <QAbstractButton>
+#include <QAbstractSlider>
 #include <QTabWidget>
 #include <QTest>
 
@@ -15,6 +17,11 @@ class StatusBarOfTheWindow : public testing::MainWindowTest {
     StatusBarOfTheWindow() {
         timers.setFrozen(true);
         load();
+        activate();
+    }
+    void activate() {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     QWidget& at(const char* name) { return *window->findChild<QWidget*>(name); }
     QLabel& panel(int number) {
@@ -76,7 +83,7 @@ TEST_F(StatusBarOfTheWindow, EscapeAndSpaceStopTheMusicAndNothingElse) {
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Space}) {
         trigger("mnuSoundPlayAll");
         ASSERT_TRUE(window->bench().player.playing);
-        press("frmMain", key);
+        QTest::keyClick(window.get(), key);
         EXPECT_FALSE(window->bench().player.playing);
         EXPECT_EQ(window->document().barMark(0), "");
     }
@@ -109,7 +116,6 @@ TEST_F(StatusBarOfTheWindow, TheThirdLeadsToTheSpeed) {
 }
 
 TEST_F(StatusBarOfTheWindow, AreReachedFromThePageAndPressedByKeys) {
-    window->activateWindow();
     at("picDocument").setFocus();
     for (int number = 1; number <= 3; ++number) {
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
@@ -132,7 +138,6 @@ TEST_F(StatusBarOfTheWindow, AreReachedFromThePageAndPressedByKeys) {
 }
 
 TEST_F(StatusBarOfTheWindow, AFocusedPanelIsMarkedAndAClickLeavesTheKeyboard) {
-    window->activateWindow();
     at("picDocument").setFocus();
     const QImage before = panel(2).grab().toImage();
     panel(2).setFocus();

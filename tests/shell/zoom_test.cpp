@@ -1,4 +1,5 @@
 // The zoom: places, pictures, mouse and keys at each of its steps.
+#include "editing/panel_placement.h"
 #include "shell/note_selector.h"
 #include "shell/panel_zoom.h"
 #include "tests/shell/main_window.h"
@@ -94,9 +95,9 @@ TEST_P(Zooming, ThePictureIsTheUnzoomedOneAtItsSize) {
     plain.picDocument.setBackground(surface.background());
     plain.picDocument.resize(surface.width(), surface.height());
     plain.picDocument.Cls();
-    Document copy = window->document();
-    plain.drawStaves(copy);
-    plain.DrawNotationAndRhythm(copy);
+    const Document& shown = window->document();
+    plain.drawStaves(shown);
+    plain.DrawNotationAndRhythm(shown);
     EXPECT_EQ(plain.picDocument.image(), surface.image());
     // Every image pixel of a whole scale is one pixel of the screen; others lie between their neighbours.
     window->editor().cursor().objects.nCursor.left = 5000;
@@ -134,11 +135,12 @@ TEST_P(Zooming, TheSmallPanelsOpenWhereTheyDoUnzoomed) {
     QWidget& bend = at("picBend");
     ASSERT_TRUE(bend.isVisible());
     const double factor = GetParam() / 100.0;
-    EXPECT_NEAR(bend.x(), (cursor.right() + 2) * factor, 1.0);
-    EXPECT_NEAR(bend.y(), 24 + (cursor.bottom() + 2 + layout().picDocument.top - 24) * factor, 1.0);
+    const Rect place = placeBesideCursor(cursor, layout().picDocument, {0, 0, 170, 62});
+    EXPECT_NEAR(bend.x(), place.left * factor, 1.0);
+    EXPECT_NEAR(bend.y(), 24 + (place.top - 24) * factor, 1.0);
     choose(GetParam() == 200 ? 100 : 200);
-    const double other = zoom() / 100.0;
-    EXPECT_NEAR(bend.x(), (cursor.right() + 2) * other, 1.0) << "it stays beside the cursor";
+    EXPECT_NEAR(bend.x(), place.left * zoom() / 100.0, 1.0) << "it stays beside the cursor";
+    EXPECT_NEAR(bend.y(), 24 + (place.top - 24) * zoom() / 100.0, 1.0);
     choose(GetParam());
     QTest::keyClick(&bend, Qt::Key_Right);
     EXPECT_NEAR(at("BendCursor").x(), 28 * factor, 1.0);
@@ -169,6 +171,8 @@ INSTANTIATE_TEST_SUITE_P(Steps, Zooming, ::testing::ValuesIn(ZoomSteps));
 class ZoomCommands : public Zooming {};
 
 TEST_F(ZoomCommands, MenuKeysAndWheelChangeIt) {
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     trigger("mnuZoomIn");
     EXPECT_EQ(zoom(), 125);
     trigger("mnuZoom(3)");
