@@ -29,24 +29,25 @@ DocumentLists::DocumentLists(const ToolContext& context, QWidget* parent) : QWid
         addRow(Recent, textOf(pathOf(file).filename()), file);
     for (const ExampleDocument& example : exampleDocuments(context.services.programFolder))
         addRow(Examples, example.name, example.file);
-    for (ListBox* box : lists_) {
-        box->setVisible(box->count() > 0);
-        findChild<QLabel*>("lbl" + box->objectName().mid(3))->setVisible(box->count() > 0);
-    }
+    // An empty one leaves its room to the other.
+    for (const ListBox* box : lists_)
+        box->parentWidget()->setVisible(box->count() > 0);
 }
 
 ListBox* DocumentLists::addList(int list, const QString& name, const QString& title) {
-    auto* box = new ListBox(name, this, ListBox::KeyClick::AtEnter);
+    auto* half = new QWidget(this);
+    auto* box = new ListBox(name, half, ListBox::KeyClick::AtEnter);
     box->setTextElideMode(Qt::ElideMiddle);
     box->setAccessibleName(title);
-    auto* label = labelOf(box, "lbl" + name.mid(3), this);
+    auto* label = labelOf(box, "lbl" + name.mid(3), half);
     label->setTextFormat(Qt::PlainText);
     label->setText(title);
-    auto* column = new QVBoxLayout;
+    auto* column = new QVBoxLayout(half);
+    column->setContentsMargins({});
     column->setSpacing(4);
     column->addWidget(label);
     column->addWidget(box, 1);
-    static_cast<QHBoxLayout*>(layout())->addLayout(column, 1);
+    static_cast<QHBoxLayout*>(layout())->addWidget(half, 1);
     box->Click = [this, list, box] {
         const QString file = files_[static_cast<std::size_t>(list)].value(box->chosenRow());
         if (!file.isEmpty() && chosen) chosen(file);

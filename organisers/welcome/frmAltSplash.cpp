@@ -5,7 +5,10 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
+
 #include <QShowEvent>
+#include <algorithm>
 
 namespace tabrova {
 
@@ -13,7 +16,9 @@ namespace {
 
 constexpr int PictureWidth = 520;
 constexpr int PictureHeight = 320;
-constexpr int DocumentsHeight = 168; // below the picture
+constexpr int DocumentsHeight = 168; // below the picture; less on a low screen
+constexpr int LeastDocumentsHeight = 80;
+constexpr int FrameHeight = 48; // of the desktop's, at most
 constexpr int OptionSize = 96;
 constexpr int DrawingSize = OptionSize - 8;
 constexpr int OptionTop = 132;
@@ -176,12 +181,16 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
 
 void frmAltSplash::offerDocuments() {
     auto* documents = new DocumentLists(context_, this);
-    documents->setGeometry(0, PictureHeight, PictureWidth, DocumentsHeight);
-    documents->setVisible(!documents->isEmpty());
+    const QWidget* on = parentWidget() ? parentWidget() : this;
+    const int room = on->screen()->availableGeometry().height() - FrameHeight - PictureHeight;
+    const int height = std::min(room, DocumentsHeight);
+    const bool shown = !documents->isEmpty() && height >= LeastDocumentsHeight;
+    documents->setGeometry(0, PictureHeight, PictureWidth, height);
+    documents->setVisible(shown);
     documents->chosen = [this](const QString& file) {
         leaveTo([this, file] { context_.commands.documents.openFile(file, Leaving::WithoutAQuestion); });
     };
-    if (!documents->isEmpty()) setFixedSize(PictureWidth, PictureHeight + DocumentsHeight);
+    if (shown) setFixedSize(PictureWidth, PictureHeight + height);
 }
 
 void frmAltSplash::takeMessage(std::string_view message, const QString& text) {
@@ -248,7 +257,9 @@ void frmAltSplash::moveToMiddle() {
     if (!parentWidget()) return;
     QRect place = frameGeometry();
     place.moveCenter(parentWidget()->frameGeometry().center());
-    move(place.topLeft());
+    // Its frame stays on the screen.
+    const QRect screen = parentWidget()->screen()->availableGeometry();
+    move(std::max(place.left(), screen.left()), std::max(place.top(), screen.top()));
 }
 
 void frmAltSplash::showEvent(QShowEvent* event) {

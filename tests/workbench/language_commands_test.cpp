@@ -34,16 +34,39 @@ TEST_F(LanguageSteps, LoadingTakesEveryMessageOfTheMainWindowFromItsLine) {
     std::set<std::string> words;
     for (const LanguageLine& line : languageLinesOf("frmMain"))
         if (line.use == LineUse::Message) words.insert("Line " + std::to_string(line.number));
-    for (const std::string& word :
-         {bench.words.track, bench.words.of, bench.words.staff, bench.words.selectedTrack,
-          bench.words.saveQuestion, bench.words.percussionQuestion, bench.words.onlyTrack,
-          bench.words.removeTrackQuestion, bench.words.clearOnlyStaffQuestion, bench.words.longExport,
-          bench.words.foreignCharacter, bench.words.place, bench.words.playing, bench.words.speed,
-          bench.words.notSaved, bench.words.noBankHere, bench.words.noOutputHere, bench.words.noAnswerHere,
-          bench.words.noBank, bench.words.bankUnreadable, bench.words.noOutput, bench.words.noAnswer,
-          bench.words.soundBanks, bench.words.keys, bench.words.keysOnPage, bench.words.arrowKeys,
-          bench.words.moveCursor, bench.words.digits, bench.words.writeFret, bench.words.recentDocuments,
-          bench.words.examples, bench.words.fileGone, bench.words.toolkit})
+    for (const std::string& word : {bench.words.track,
+                                    bench.words.of,
+                                    bench.words.staff,
+                                    bench.words.selectedTrack,
+                                    bench.words.saveQuestion,
+                                    bench.words.percussionQuestion,
+                                    bench.words.onlyTrack,
+                                    bench.words.removeTrackQuestion,
+                                    bench.words.clearOnlyStaffQuestion,
+                                    bench.words.longExport,
+                                    bench.words.foreignCharacter,
+                                    bench.words.place,
+                                    bench.words.playing,
+                                    bench.words.speed,
+                                    bench.words.notSaved,
+                                    bench.words.noBankHere,
+                                    bench.words.noOutputHere,
+                                    bench.words.noAnswerHere,
+                                    bench.words.noBank,
+                                    bench.words.bankUnreadable,
+                                    bench.words.noOutput,
+                                    bench.words.noAnswer,
+                                    bench.words.soundBanks,
+                                    bench.words.keys,
+                                    bench.words.keysOnPage,
+                                    bench.words.arrowKeys,
+                                    bench.words.moveCursor,
+                                    bench.words.digits,
+                                    bench.words.writeFret,
+                                    bench.words.recentDocuments,
+                                    bench.words.examples,
+                                    bench.words.fileGone,
+                                    bench.words.toolkit})
         EXPECT_EQ(words.erase(word), 1u) << word;
     for (const auto& [answer, text] : boxes.buttonTexts)
         EXPECT_EQ(words.erase(text.toStdString()), 1u) << text.toStdString();

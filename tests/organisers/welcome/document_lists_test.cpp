@@ -59,6 +59,15 @@ TEST_F(WelcomeDocuments, StandBelowThePicture) {
     EXPECT_EQ(splash->focusWidget(), splash.get());
 }
 
+TEST_F(WelcomeDocuments, AnEmptyListLeavesItsRoomToTheOther) {
+    commands.documents.recent.clear();
+    open();
+    QApplication::processEvents();
+    EXPECT_FALSE(list("lstRecent").isVisible());
+    EXPECT_FALSE(splash->findChild<QLabel*>("lblRecent")->isVisible());
+    EXPECT_GT(list("lstExamples").width(), 480);
+}
+
 TEST_F(WelcomeDocuments, OpenWithoutAQuestionByOneClick) {
     open();
     click(list("lstRecent"), 1);
