@@ -1,6 +1,5 @@
 #include "shell/file_lists.h"
 
-#include "platform/paths.h"
 #include "workbench/examples.h"
 
 namespace tabrova {
@@ -35,7 +34,7 @@ void FileLists::showRecent() {
         item->setVisible(there);
         if (!there) continue;
         const QString key = place + 1 < RecentDocuments::Most ? "&" + QString::number(place + 1) : "1&0";
-        item->setText(key + "  " + captionOf(textOf(pathOf(files[place]).filename())));
+        item->setText(key + "  " + captionOf(listedName(files[place])));
         item->setToolTip(files[place]);
     }
     menu_.setEnabled("mnuRecent", !files.isEmpty());

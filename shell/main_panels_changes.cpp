@@ -60,7 +60,7 @@ void MainPanels::showPlace() {
     PlaceFacts facts;
     if (bench_.player.playing) facts.sounding = bench_.player.soundingColumn;
     facts.doubleTime = loaded ? bench_.player.speedBoost : bench_.document.DoubleTime;
-    facts.fileName = context_.commands.documents.fileName();
+    facts.fileName = listedName(context_.commands.documents.fileName());
     if (silent) facts.trouble = troubleHere(sound.trouble, bench_.words);
     const QString line = placeLine(bench_.document, facts, bench_.words);
     const bool explained = !facts.trouble.isEmpty() && !facts.sounding;

@@ -23,6 +23,8 @@ struct ViewRow {
 constexpr std::array Views = {ViewRow{"mnuViewNotation", "Notation"},
                               ViewRow{"mnuVirtualFretboard", "Fretboard"}};
 
+int leastWidth(int percent) { return zoomed({0, 0, NarrowestFollowedWidth + 1, 1}, percent).width; }
+
 QSize roomOn(const QScreen& screen) {
     return screen.availableGeometry().size() - QSize(FrameWidth, FrameHeight);
 }
@@ -47,6 +49,7 @@ void WindowPlace::restore() {
     const QSize room = roomOn(screen);
     ViewCommands& views = window_.commands().views;
     views.setFirstZoom(zoomForScreen(room));
+    limitSize();
     views.restoreZoom();
     limitSize();
     const QByteArray remembered =
@@ -79,9 +82,17 @@ void WindowPlace::actEnded(std::string_view, const Changes& changes) {
 }
 
 void WindowPlace::limitSize() {
-    const int percent = window_.commands().views.zoom();
-    const Rect least = zoomed({0, 0, NarrowestFollowedWidth + 1, LeastHeight}, percent);
-    window_.setMinimumSize(QSize(least.width, least.height).boundedTo(roomOn(*window_.screen())));
+    ViewCommands& views = window_.commands().views;
+    const QSize room = roomOn(*window_.screen());
+    int largest = ZoomSteps.front();
+    for (std::size_t step = 1; step < ZoomSteps.size(); ++step) {
+        const bool fits = leastWidth(ZoomSteps[step]) <= room.width();
+        window_.menu().setEnabled("mnuZoom(" + QString::number(step) + ")", fits);
+        if (fits) largest = ZoomSteps[step];
+    }
+    views.setLargestZoom(largest);
+    const int height = zoomed({0, 0, 1, LeastHeight}, views.zoom()).bottom();
+    window_.setMinimumSize(QSize(leastWidth(views.zoom()), height).boundedTo(room));
 }
 
 } // namespace tabrova

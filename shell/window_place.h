@@ -22,7 +22,7 @@ class WindowPlace : private ActObserver {
 
   private:
     void actEnded(std::string_view act, const Changes& changes) override;
-    // So that the scroll bar is seen at every size.
+    // So that the scroll bar is seen at every size and zoom.
     void limitSize();
 
     frmMain& window_;

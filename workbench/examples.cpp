@@ -1,6 +1,7 @@
 #include "workbench/examples.h"
 
 #include "core/files/folder_entries.h"
+#include "forms/text_edges.h"
 #include "platform/paths.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ QString shownNameOf(const std::filesystem::path& file) {
     QStringList words = textOf(file.stem()).split('-', Qt::SkipEmptyParts);
     for (QString& word : words)
         word.front() = word.front().toUpper();
-    return words.join(' ');
+    return inOneLine(words.join(' '));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
-// The documents that were opened or saved last, newest first. They stand in the settings, section "Recent".
+// The documents that were opened or saved last, newest first. They stand in the settings, section "Recent",
+// with "%" and four hexadecimal digits for a percent sign and for what is no text.
 #pragma once
 
 #include "platform/settings_store.h"
@@ -6,6 +7,9 @@
 #include <QStringList>
 
 namespace tabrova {
+
+// A file's name as a list shows it: in one line of bearable length.
+QString listedName(const QString& file);
 
 class RecentDocuments {
   public:

@@ -7,6 +7,9 @@
 
 namespace tabrova {
 
+// As the list of devices names it; windows show it in their language.
+inline constexpr char SynthesizerName[] = "Built-in Synthesizer";
+
 // The synthesizer's trouble, sentence by sentence.
 QString toldTrouble(const QString& trouble, const LanguageWords& words);
 // In one short line, with the way to mend it; "" for a trouble with which something can be heard.

@@ -60,6 +60,7 @@ void ViewCommands::restoreZoom() {
 }
 
 void ViewCommands::showZoom(int percent) {
+    percent = std::min(percent, largestZoom_);
     zoom_ =
         *std::ranges::min_element(ZoomSteps, {}, [percent](int step) { return std::abs(step - percent); });
     for (std::size_t step = 0; step < ZoomSteps.size(); ++step)

@@ -25,6 +25,8 @@ class ViewCommands {
     // As it was remembered, else this one.
     void restoreZoom();
     void setFirstZoom(int percent) { firstZoom_ = percent; }
+    // No zoom is larger from now on: the screen has no room for the page.
+    void setLargestZoom(int percent) { largestZoom_ = percent; }
     // To the next larger (1) or smaller step (-1), as far as there is one.
     void stepZoom(int steps);
     int zoom() const { return zoom_; }
@@ -52,7 +54,8 @@ class ViewCommands {
 
     int zoom_ = UnzoomedPercent;
     int firstZoom_ = UnzoomedPercent; // for whom none is remembered
-    int clientWidth_ = 0;             // of the window
+    int largestZoom_ = ZoomSteps.back();
+    int clientWidth_ = 0; // of the window
     int clientHeight_ = 0;
     double pixelRatio_ = 1.0;
     bool loaded_ = false;

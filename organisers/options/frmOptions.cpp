@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QFileInfo>
+#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -18,6 +19,8 @@
 namespace tabrova {
 
 namespace {
+
+constexpr int IsSynthesizer = Qt::UserRole + 1; // of a row of the devices
 
 constexpr char Section[] = "Options";
 constexpr char DeviceIndex[] = "DeviceIndex";
@@ -41,8 +44,10 @@ void frmOptions::Form_Load() {
     for (const MidiDeviceRow& row : sound().FillDeviceList()) {
         auto* item = new QListWidgetItem(row.name, lst_Devices_);
         item->setData(Qt::UserRole, row.id);
+        item->setData(IsSynthesizer, row.name == SynthesizerName);
         item->setToolTip(asPlainHint(row.name));
     }
+    nameSynthesizer();
     listLanguages();
     chooseStoredDevice();
     connectSound();
@@ -83,9 +88,10 @@ void frmOptions::lstLanguages_DblClick() {
     std::filesystem::remove(active, failed);
     copyTextFile(installedLanguages(services().programFolder) / name / "lang.trl", active);
     LoadLanguage();
+    nameSynthesizer();
     markLanguageInUse();
-    showSynthesizer();
     context_.commands.language.languageApplied();
+    showSynthesizer();
 }
 
 // A position that is not there any more leaves nothing chosen: what is sent is dropped until the user
@@ -159,6 +165,14 @@ void frmOptions::testSound() {
     for (std::size_t string = StringsPerTrack; string-- > 0;)
         sound().NoteOn(GuitarChannel, OpenStringNotes[string] + TestFrets[string], sound().FixedVelocity);
     context_.bench.stopper.restart(TestMilliseconds);
+}
+
+// The synthesizer among the devices is named as its own box is.
+void frmOptions::nameSynthesizer() {
+    for (int row = 0; row < lst_Devices_->count(); ++row) {
+        QListWidgetItem& item = *lst_Devices_->item(row);
+        if (item.data(IsSynthesizer).toBool()) item.setText(grpSynthesizer_->title());
+    }
 }
 
 void frmOptions::showSynthesizer() {

@@ -54,6 +54,7 @@ class frmOptions : public ToolWindow {
     void chooseBank();
     void testSound();
     void showSynthesizer();
+    void nameSynthesizer();
 
     DeviceClicks deviceClicks_;
     // What the synthesizer's labels say when there is nothing to name.
@@ -62,6 +63,7 @@ class frmOptions : public ToolWindow {
     QTabWidget* OptionsTabs_;
     ListBox* lst_Devices_;
     QLabel* lblDeviceGone_;
+    QGroupBox* grpSynthesizer_;
     QLabel* lblSoundBank_;
     QLabel* lblAudioOutput_;
     QLabel* lblSoundTrouble_;

@@ -74,6 +74,7 @@ QWidget* frmOptions::buildSoundTab() {
 
 QGroupBox* frmOptions::buildSynthesizerBox() {
     auto* box = named(new QGroupBox(this), "grpSynthesizer");
+    grpSynthesizer_ = box;
     lblSoundBank_ = named(new QLabel(box), "lblSoundBank");
     lblAudioOutput_ = named(new QLabel(box), "lblAudioOutput");
     lblSoundTrouble_ = named(new QLabel(box), "lblSoundTrouble");

@@ -1,7 +1,6 @@
 #include "organisers/welcome/document_lists.h"
 
 #include "forms/named.h"
-#include "platform/paths.h"
 #include "workbench/examples.h"
 
 #include <QHBoxLayout>
@@ -26,7 +25,7 @@ DocumentLists::DocumentLists(const ToolContext& context, QWidget* parent) : QWid
     lists_[Recent] = addList(Recent, "lstRecent", QString::fromStdString(context.words.recentDocuments));
     lists_[Examples] = addList(Examples, "lstExamples", QString::fromStdString(context.words.examples));
     for (const QString& file : context.commands.documents.recent.files())
-        addRow(Recent, textOf(pathOf(file).filename()), file);
+        addRow(Recent, listedName(file), file);
     for (const ExampleDocument& example : exampleDocuments(context.services.programFolder))
         addRow(Examples, example.name, example.file);
     // An empty one leaves its room to the other.

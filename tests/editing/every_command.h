@@ -187,6 +187,7 @@ class EveryCommand {
     void window() {
         editor.modes = {oneIn(2), oneIn(2)};
         editor.VScroll1_Change(place(20));
+        if (oneIn(3)) editor.goTo(place(40), place(40));
         if (oneIn(2)) view.picDocument.resize(choose(1, 300), choose(1, 250));
         editor.pageResized();
         NoFile nowhere;

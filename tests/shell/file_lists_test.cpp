@@ -1,8 +1,6 @@
 // The File menu's lists of documents, and documents dropped on the window.
-#include "core/document/document_file.h"
-#include "core/document/document_operations.h"
-#include "platform/paths.h"
 #include "tests/shell/main_window.h"
+#include "tests/workbench/saved_document.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -14,15 +12,7 @@ namespace {
 
 class FileMenu : public testing::MainWindowTest {
   protected:
-    QString saved(const std::filesystem::path& name) {
-        std::filesystem::create_directories((folder() / name).parent_path());
-        Document other;
-        resetToNewDocument(other);
-        other.Title = name.stem().string();
-        other.TrackNames = {"first"};
-        EXPECT_TRUE(saveDocument(other, folder() / name));
-        return textOf(folder() / name);
-    }
+    QString saved(const char* name) { return testing::savedDocument(folder() / name); }
     QAction* recent(int place) {
         return window->menu().action("mnuRecentDocument(" + QString::number(place) + ")");
     }

@@ -35,10 +35,22 @@ TEST_F(Places, TheFirstWindowLiesInsideTheScreen) {
 
 TEST_F(Places, TheLeastSizeShowsTheScrollBar) {
     start();
-    EXPECT_EQ(window->minimumWidth(), std::min(784, room().width() - 8));
-    window->commands().views.setZoom(125);
-    EXPECT_EQ(window->minimumWidth(), std::min(980, room().width() - 8));
+    EXPECT_EQ(window->minimumWidth(), 784);
     EXPECT_LE(window->minimumHeight(), room().height());
+    EXPECT_GE(window->minimumHeight(), 300);
+}
+
+// The screen of these tests is 800 wide.
+TEST_F(Places, AZoomForWhichTheScreenIsTooSmallIsNotOffered) {
+    services.settings.SaveSetting("Options", "Zoom", "150");
+    start();
+    ASSERT_LT(room().width(), 980 + 8);
+    EXPECT_EQ(window->commands().views.zoom(), 100);
+    EXPECT_TRUE(window->menu().isEnabled("mnuZoom(0)"));
+    for (const char* item : {"mnuZoom(1)", "mnuZoom(2)", "mnuZoom(3)"})
+        EXPECT_FALSE(window->menu().isEnabled(item)) << item;
+    trigger("mnuZoomIn");
+    EXPECT_EQ(window->commands().views.zoom(), 100);
 }
 
 TEST_F(Places, SizePlaceAndViewsComeBack) {

@@ -4,6 +4,8 @@
 #include "shell/panel_zoom.h"
 #include "tests/shell/main_window.h"
 
+#include <QLabel>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -164,6 +166,29 @@ TEST_P(Zooming, TheFretPaletteTakesTheFretUnderTheMouse) {
         const CellPlace cell = window->editor().cursor().cell();
         EXPECT_EQ(document.note(cell.column, cell.row), fret);
     }
+}
+
+TEST_P(Zooming, NoTextIsCutInAnyLanguage) {
+    choose(GetParam());
+    trigger("mnuChoose");
+    int texts = 0;
+    for (const auto& language : std::filesystem::directory_iterator(folder() / "languages")) {
+        std::filesystem::copy_file(language.path() / "lang.trl", folder() / "lang.trl",
+                                   std::filesystem::copy_options::overwrite_existing);
+        window->commands().language.LoadLanguage();
+        QApplication::processEvents();
+        for (const char* panel : {"picBend", "picRepeat", "picNoteSelector", "picTrackChooser"})
+            for (const QLabel* label : at(panel).findChildren<QLabel*>()) {
+                if (label->text().isEmpty()) continue;
+                EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width())
+                    << language.path().filename() << " " << panel << " " << label->text().toStdString();
+                EXPECT_LE(label->fontMetrics().height(), label->height() + 1) << panel;
+                ++texts;
+            }
+        for (const QPushButton* button : at("picTrackChooser").findChildren<QPushButton*>())
+            EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+    }
+    EXPECT_GE(texts, 7 * 6);
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, Zooming, ::testing::ValuesIn(ZoomSteps));

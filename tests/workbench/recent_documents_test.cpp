@@ -1,9 +1,7 @@
 // The list of recent documents, and the commands that fill and use it.
 #include "workbench/recent_documents.h"
 
-#include "core/document/document_file.h"
-#include "core/document/document_operations.h"
-#include "platform/paths.h"
+#include "tests/workbench/saved_document.h"
 #include "tests/workbench/tool_bench.h"
 
 #include <fstream>
@@ -41,16 +39,38 @@ TEST(RecentDocumentsList, GapsAndDoublesInTheSettingsArePassedOver) {
     EXPECT_EQ(RecentDocuments(settings).files(), QStringList({"/b", "/a"}));
 }
 
+TEST(RecentDocumentsList, NamesAreShownInOneLineOfBearableLength) {
+    EXPECT_EQ(listedName("/tabs/my song.tr3"), "my song.tr3");
+    EXPECT_EQ(listedName("/tabs/two\nlines\tand a tab.tr3"), "two lines and a tab.tr3");
+    EXPECT_EQ(listedName(""), "");
+    const QString listed = listedName("/tabs/" + QString(200, 'x'));
+    EXPECT_TRUE(listed.startsWith(QString(60, 'x')));
+    EXPECT_LT(listed.size(), 66);
+}
+
+TEST(RecentDocumentsList, NamesOfAnyBytesComeThroughTheSettingsFile) {
+    QTemporaryDir home;
+    const QString ini = home.filePath("settings.ini");
+    QStringList files;
+    for (const char* name : {"/t/100% %0041.tr3", "/t/caf\xE9.tr3", "/t/\xFF\xFE", "/t/\xF0\x9F\x8E\xB8.tr3",
+                             "/t/line\nend", "/t/%", "/t/a;b=c\\d\"e, f"})
+        files.append(textOf(std::filesystem::path(name)));
+    {
+        DesktopSettingsStore settings(ini);
+        RecentDocuments recent(settings);
+        for (qsizetype at = files.size(); at-- > 0;)
+            recent.add(files[at]);
+    }
+    DesktopSettingsStore settings(ini);
+    const RecentDocuments recent(settings);
+    ASSERT_EQ(recent.files().size(), files.size());
+    for (qsizetype at = 0; at < files.size(); ++at)
+        EXPECT_EQ(pathOf(recent.files()[at]), pathOf(files[at])) << at;
+}
+
 class RecentSteps : public ToolBench {
   protected:
-    QString saved(const char* name) {
-        Document other;
-        resetToNewDocument(other);
-        other.Title = name;
-        other.TrackNames = {"first"};
-        EXPECT_TRUE(saveDocument(other, folder() / name));
-        return textOf(folder() / name);
-    }
+    QString saved(const char* name) { return savedDocument(folder() / name); }
     void run(const std::string& item) {
         CommandTable table;
         commands.registerRows(table);
@@ -118,7 +138,7 @@ TEST_F(RecentSteps, ARecentDocumentAsksToSaveThenOpens) {
     EXPECT_EQ(document().Title, "Untitled");
     boxes.queueAnswer(BoxAnswer::No);
     run("mnuRecentDocument(1)");
-    EXPECT_EQ(document().Title, "first.tr3");
+    EXPECT_EQ(document().Title, "first");
     EXPECT_EQ(recent(), QStringList({first, second}));
     EXPECT_EQ(boxes.take().size(), 2);
     run("mnuRecentDocument(7)");

@@ -138,6 +138,16 @@ TEST_F(ViewSteps, AWindowTooNarrowForTheZoomShowsTheNarrowestPage) {
     EXPECT_EQ(layout().VScroll1.left, 767);
 }
 
+TEST_F(ViewSteps, NoZoomIsLargerThanTheLargest) {
+    views.setLargestZoom(125);
+    views.setZoom(200);
+    EXPECT_EQ(views.zoom(), 125);
+    views.stepZoom(1);
+    EXPECT_EQ(views.zoom(), 125);
+    views.stepZoom(-1);
+    EXPECT_EQ(views.zoom(), 100);
+}
+
 TEST_F(ViewSteps, TheRememberedZoomIsTheNearestThatThereIs) {
     for (const auto& [stored, zoom] :
          {std::pair{"150", 150}, {"140", 150}, {"1000", 200}, {"-1", 100}, {"none", 100}, {"", 125}}) {

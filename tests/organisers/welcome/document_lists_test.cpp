@@ -1,9 +1,7 @@
 // The documents that the welcome window offers.
-#include "core/document/document_file.h"
-#include "core/document/document_operations.h"
 #include "organisers/welcome/frmAltSplash.h"
 #include "platform/list_box.h"
-#include "platform/paths.h"
+#include "tests/workbench/saved_document.h"
 #include "tests/workbench/tool_bench.h"
 
 #include <QApplication>
@@ -20,15 +18,7 @@ class WelcomeDocuments : public ToolBench {
         commands.documents.recent.add(saved("mine/first song.tr3"));
         commands.documents.recent.add(saved("mine/second.tr3"));
     }
-    QString saved(const std::filesystem::path& name) {
-        std::filesystem::create_directories((folder() / name).parent_path());
-        Document other;
-        resetToNewDocument(other);
-        other.Title = name.stem().string();
-        other.TrackNames = {"first"};
-        EXPECT_TRUE(saveDocument(other, folder() / name));
-        return textOf(folder() / name);
-    }
+    QString saved(const char* name) { return savedDocument(folder() / name); }
     void open() {
         splash = std::make_unique<frmAltSplash>(context, nullptr);
         splash->Form_Load();
