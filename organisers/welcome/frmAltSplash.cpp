@@ -153,7 +153,8 @@ frmAltSplash::frmAltSplash(const ToolContext& context, QWidget* parent)
     : ToolWindow("frmAltSplash", context, parent) {
     setWindowTitle("Tabrova");
     setWindowModality(Qt::ApplicationModal);
-    setWindowFlag(Qt::WindowMinMaxButtonsHint, false);
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
     setFixedSize(PictureWidth, PictureHeight);
     offerDocuments();
     if (parent) parent->installEventFilter(this);
@@ -255,7 +256,8 @@ void frmAltSplash::run(SplashChoice choice) {
 
 void frmAltSplash::moveToMiddle() {
     if (!parentWidget()) return;
-    QRect place = frameGeometry();
+    // While the desktop frames it, the frame may have no size yet.
+    QRect place(QPoint(), frameSize().expandedTo(size()));
     place.moveCenter(parentWidget()->frameGeometry().center());
     // Its frame stays on the screen.
     const QRect screen = parentWidget()->screen()->availableGeometry();
