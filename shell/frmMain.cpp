@@ -2,29 +2,17 @@
 
 #include "forms/captions.h"
 #include "forms/plain_tool_tips.h"
+#include "shell/dropped_document.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDropEvent>
 #include <QLayout>
 #include <QMimeData>
-#include <QUrl>
 
 #include <utility>
 
 namespace tabrova {
-
-namespace {
-
-// The one document among the dropped things; "" for anything else.
-QString droppedDocument(const QMimeData& dropped) {
-    const QList<QUrl> urls = dropped.urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) return {};
-    const QString file = urls.front().toLocalFile();
-    return file.endsWith(".tr3", Qt::CaseInsensitive) ? file : QString();
-}
-
-} // namespace
 
 frmMain::frmMain(Services& services)
     : services_(services), bench_(services, this), menu_(*menuBar()),

@@ -22,6 +22,12 @@ QString shownKeys(const QList<QKeySequence>& sequences) {
     return keys.join(", ");
 }
 
+// Its caption is a name of the user's, which may end in brackets.
+bool namesDocument(const QAction& item) {
+    const QString name = item.objectName();
+    return name.startsWith("mnuRecentDocument(") || name.startsWith("mnuExample(");
+}
+
 // A caption that names its key itself: "Delete Note (Del)".
 KeyRow rowOfCaption(const QString& caption) {
     const qsizetype bracket = caption.lastIndexOf('(');
@@ -52,6 +58,7 @@ class Rows {
     }
     void addMenu(const QMenu& menu) {
         for (const QAction* item : menu.actions()) {
+            if (namesDocument(*item)) continue;
             if (item->menu()) {
                 addMenu(*item->menu());
                 continue;

@@ -1,4 +1,6 @@
 // The File menu's lists of documents, and documents dropped on the window.
+#include "platform/paths.h"
+#include "shell/dropped_document.h"
 #include "tests/shell/main_window.h"
 #include "tests/workbench/saved_document.h"
 
@@ -94,6 +96,17 @@ TEST_F(FileMenu, ADroppedDocumentIsOpenedAfterTheQuestion) {
     QApplication::processEvents();
     EXPECT_EQ(boxes.take().size(), 1);
     EXPECT_EQ(title(), "dropped one");
+}
+
+TEST(DroppedDocument, MayHaveANameOfAnyBytes) {
+    for (const auto& [url, name] : {std::pair{"file:///tabs/caf%E9.tr3", "/tabs/caf\xE9.tr3"},
+                                    {"file:///tabs/caf%C3%A9.tr3", "/tabs/caf\xC3\xA9.tr3"},
+                                    {"file:///tabs/100%25%20%23a%3F.tr3", "/tabs/100% #a?.tr3"},
+                                    {"file:///tabs/a+b;c.TR3", "/tabs/a+b;c.TR3"}}) {
+        QMimeData data;
+        data.setData("text/uri-list", QByteArray(url) + "\r\n");
+        EXPECT_EQ(pathOf(droppedDocument(data)).native(), name) << url;
+    }
 }
 
 TEST_F(FileMenu, AnythingElseIsNotTaken) {

@@ -62,6 +62,17 @@ TEST_F(KeyPage, HoldsTheToolbarsKeysAndThePagesOwn) {
     }
 }
 
+TEST_F(KeyPage, ADocumentsNameIsNoKey) {
+    window->commands().documents.recent.add("/tabs/First take (Del)");
+    {
+        const Act act(window->bench().acts, "recent");
+        window->bench().acts.changes().recent = true;
+    }
+    ASSERT_EQ(window->menu().action("mnuRecentDocument(0)")->text(), "&1  First take (Del)");
+    for (const auto& [name, keys] : rows())
+        EXPECT_EQ(name.find("First take"), std::string::npos) << name << " " << keys;
+}
+
 TEST_F(KeyPage, NoTwoCommandsShareAShortcut) {
     std::map<QString, QString> owners;
     for (const QAction* action : window->findChildren<QAction*>())
