@@ -17,7 +17,7 @@ QString shownNameOf(const std::filesystem::path& file) {
     QStringList words = textOf(file.stem()).split('-', Qt::SkipEmptyParts);
     for (QString& word : words)
         word.front() = word.front().toUpper();
-    return inOneLine(words.join(' '));
+    return inOneLine(words.isEmpty() ? textOf(file.stem()) : words.join(' '));
 }
 
 } // namespace

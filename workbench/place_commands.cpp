@@ -34,7 +34,7 @@ void PlaceCommands::stepTrack(int tracks) {
     const int last =
         std::min<int>(bench_.document.TrackCount, static_cast<int>(bench_.document.TrackNames.size()));
     const int track = bench_.document.CurrentTrack + tracks;
-    if (track >= 1 && track <= last) bench_.tracks.TrackNames_Click(track - 1);
+    if (track <= last) bench_.tracks.TrackNames_Click(track - 1);
 }
 
 } // namespace tabrova
