@@ -94,7 +94,7 @@ TEST(DocumentCommands, OpeningSetsStatusTitleAndStatistics) {
     drive.ok("do mnuFileOpen");
     EXPECT_EQ(drive.get("StatusBar1(1)").toString().toStdString(),
               "Rhythm Guitar selected (Click here to change)");
-    EXPECT_EQ(drive.get("lbldebug").toString().toStdString(), "Track 1 of 3, Staff 1 of 6");
+    EXPECT_EQ(drive.get("lbldebug").toString().toStdString(), "Track 1 of 3, Staff 1 of 7");
     EXPECT_EQ(drive.doc()["CurrentTrack"].toInt(), 1);
     EXPECT_EQ(drive.doc()["GuitarTrackFlags"].toArray(), (QJsonArray{true, true, false}));
 }

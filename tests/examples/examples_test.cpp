@@ -65,6 +65,20 @@ TEST_P(Example, NoTechniqueStandsWithoutANote) {
             }
 }
 
+// The column that closes is not part of the passage: it is the first one behind it.
+TEST_P(Example, ARepeatedPassageKeepsTheBeat) {
+    constexpr int Beat = 4;
+    int opened = -1;
+    for (int column = 0; column < document.ColumnCapacity; ++column) {
+        if (document.barMark(column) == "r") opened = column;
+        if (!closedRepeatCount(document.barMark(column))) continue;
+        ASSERT_GE(opened, 0) << "column " << column;
+        EXPECT_EQ((column - opened) % Beat, 0) << "column " << column;
+        opened = -1;
+    }
+    EXPECT_EQ(opened, -1);
+}
+
 // A column that closes a repeat sounds in the same tick as the passage's first one; a note that rings on
 // there would sound into the passage.
 TEST_P(Example, NothingRingsOnWhereARepeatCloses) {
