@@ -146,6 +146,7 @@ constexpr MenuRow Rows[] = {
     {Kind::Item, "mnuToolsGuitarLessons", "mnuTools", "Ctrl+6"},
     {Kind::Item, "mnuToolsMetronome", "mnuTools", "Ctrl+7"},
     {Kind::Item, "mnuToolsDrumMachine", "mnuTools", "Ctrl+8"},
+    {Kind::Item, "mnuPercussionEditor", "mnuTools", "Ctrl+9"},
     {Kind::Separator, "", "mnuTools"},
     {Kind::Item, "mnuToolsOptions", "mnuTools", "Ctrl+,"},
 

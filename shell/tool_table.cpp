@@ -45,7 +45,7 @@ constexpr ToolRow ToolTable[] = {
     {"frmMetronome", "mnuToolsMetronome", make<frmMetronome>},
     {"frmDrumMachine", "mnuToolsDrumMachine", make<frmDrumMachine>},
     {"frmLessons", "mnuToolsGuitarLessons", make<frmLessons>},
-    {"frmPercussion", "", make<frmPercussion>},
+    {"frmPercussion", "mnuPercussionEditor", make<frmPercussion>},
     {"frmBandManager", "mnuBandManager", make<frmBandManager>},
     {"frmWebsites", "mnuToolsWebsiteManager", make<frmWebsites>},
     {"frmHelp", "mnuHelpContents", make<frmHelp>},

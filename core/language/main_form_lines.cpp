@@ -198,6 +198,7 @@ constexpr LanguageLine Lines[] = {
     message(577, "fileGone", "This file is not there any more:"),
     message(578, "toolkit", "en"),
     caption(579, "picDocument", "Tablature Page"),
+    caption(587, "mnuPercussionEditor", "&Percussion Editor"),
 };
 
 } // namespace

@@ -120,6 +120,22 @@ TEST_F(PracticeTools, ADoubleClickOnAPercussionTracksPageOpensItsEditor) {
     EXPECT_EQ(drive.forms("visible"), (std::vector<std::string>{"frmMain", "frmPercussion"}));
 }
 
+TEST_F(PracticeTools, ThePercussionEditorsItemIsThatOfPercussionTracks) {
+    const auto usable = [this] { return drive.get("mnuPercussionEditor enabled").toBool(); };
+    EXPECT_FALSE(usable());
+    addPercussionTrack();
+    EXPECT_TRUE(usable());
+    drive.ok("do mnuPreviousTrack");
+    EXPECT_FALSE(usable());
+    drive.ok("do mnuNextTrack");
+    EXPECT_TRUE(usable());
+    drive.ok("do mnuPercussionEditor");
+    EXPECT_EQ(drive.forms("visible"), (std::vector<std::string>{"frmMain", "frmPercussion"}));
+    drive.ok("press frmPercussion Escape");
+    drive.ok("do mnuFileNew");
+    EXPECT_FALSE(usable());
+}
+
 TEST_F(PracticeTools, DrumsAreWrittenUnderTheCursorAndSound) {
     addPercussionTrack();
     drive.ok("dblclick picDocument 60 60");

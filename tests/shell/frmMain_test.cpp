@@ -57,7 +57,8 @@ TEST_F(MainWindow, EveryItemHasItsCommandAndOneWithoutIsDisabled) {
         if (action->isSeparator() || action->menu() || action->objectName().isEmpty()) continue;
         // A list of recent documents that is shorter hides the rest.
         if (!action->isVisible()) continue;
-        EXPECT_TRUE(action->isEnabled()) << action->objectName().toStdString();
+        EXPECT_EQ(action->isEnabled(), action->objectName() != "mnuPercussionEditor")
+            << action->objectName().toStdString();
         ++items;
     }
     EXPECT_GT(items, 60);
