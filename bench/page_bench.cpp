@@ -130,19 +130,27 @@ void TypedNoteWithoutSound(benchmark::State& state) {
         program.window.editor().DrawAndStoreNote('7');
 }
 
-void KeyToImage(benchmark::State& state) {
+// The argument is the zoom's step: 100, 125, 150, 200 %.
+void keyToImage(benchmark::State& state, std::initializer_list<Qt::Key> keys) {
     Program program;
     makeLargeDocument(program.window.document(), 4);
+    program.window.menu().action(QString("mnuZoom(%1)").arg(state.range(0)))->trigger();
     auto* page = program.window.findChild<QWidget*>("picDocument");
     program.window.editor().refreshdrawing();
     QApplication::processEvents();
-    for (auto _ : state) {
-        QKeyEvent press(QEvent::KeyPress, Qt::Key_7, Qt::NoModifier, "7");
+    std::size_t pressed = 0;
+    measureAgainstCopy(state, [&] {
+        const Qt::Key key = keys.begin()[pressed++ % keys.size()];
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(QChar(key)));
         QApplication::sendEvent(page, &press);
         QApplication::sendPostedEvents();
         QApplication::processEvents();
-    }
+    });
 }
+
+void KeyToImage(benchmark::State& state) { keyToImage(state, {Qt::Key_7, Qt::Key_8}); }
+
+void ArrowToImage(benchmark::State& state) { keyToImage(state, {Qt::Key_Right, Qt::Key_Left}); }
 
 BENCHMARK(FullRedraw)->Arg(12)->Arg(1)->Arg(4096)->Unit(benchmark::kMicrosecond);
 BENCHMARK(WholeRefresh)->Unit(benchmark::kMicrosecond);
@@ -151,7 +159,8 @@ BENCHMARK(NotationPass)->Arg(1)->Arg(4)->Arg(17)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Fretboard)->Unit(benchmark::kMicrosecond);
 BENCHMARK(CursorMove)->Unit(benchmark::kMicrosecond);
 BENCHMARK(TypedNoteWithoutSound)->Unit(benchmark::kMicrosecond);
-BENCHMARK(KeyToImage)->Unit(benchmark::kMillisecond);
+BENCHMARK(KeyToImage)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
+BENCHMARK(ArrowToImage)->DenseRange(0, 3)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace tabrova

@@ -21,8 +21,7 @@ void Editor::refreshdrawing() {
 
 void Editor::drawPage() {
     DrawFretBoard();
-    view_.picDocument.Cls();
-    view_.picStandardNotation.Cls();
+    view_.startRedraw();
     document_.VisibleStaves = visibleStaves(view_.picDocument.height());
     document_.ColumnWidth = columnWidth(view_.picDocument.width());
     view_.drawStaves(document_);
@@ -33,6 +32,7 @@ void Editor::drawPage() {
 void Editor::showWhatWasDrawn() {
     ++changes().redraws;
     DrawNotationAndRhythm();
+    view_.endRedraw();
     changes().strip = true;
     changes().page = true;
     cursor_.placeMarkerInColumn();

@@ -7,7 +7,7 @@
 
 namespace tabrova {
 
-FretboardWidget::FretboardWidget(const Surface& surface, QWidget* parent)
+FretboardWidget::FretboardWidget(Surface& surface, QWidget* parent)
     : SurfaceWidget("picFretboard", surface, parent) {
     nameAfter(this, "mnuVirtualFretboard");
 }

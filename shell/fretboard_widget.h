@@ -8,7 +8,7 @@ namespace tabrova {
 
 class FretboardWidget : public SurfaceWidget {
   public:
-    FretboardWidget(const Surface& surface, QWidget* parent);
+    FretboardWidget(Surface& surface, QWidget* parent);
 
     std::function<void(MouseButton button, int x, int y)> mouseDown;
     std::function<void()> doubleClick;

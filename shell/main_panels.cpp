@@ -75,7 +75,7 @@ void MainPanels::connectPage() {
     page_->mouseDown = [this](MouseButton button, int x, int y) {
         editor_.picDocument_MouseDown(button, x, y);
     };
-    // The list of drums, when there is a window for it, on a percussion track.
+    // The list of drums, on a percussion track.
     page_->doubleClick = [this] {
         const Document& document = bench_.document;
         if (!document.isGuitarTrack(document.CurrentTrack)) context_.tools.open("frmPercussion");
@@ -88,10 +88,9 @@ void MainPanels::connectPage() {
         editor_.picFretboard_MouseDown(button, x, y);
     };
     fretboard_->doubleClick = [this] { menu_.action("mnuChordManager")->trigger(); };
-    strip_->paintObjects = [this](QPainter& painter) {
+    strip_->objects = [this]() -> std::vector<FloatingRect> {
         const PageObjects& objects = editor_.page();
-        painter.fillRect(objects.NoteLine.x1, 0, objects.borderWidth, StripHeight,
-                         QColor(objects.noteLineColor));
+        return {{{objects.NoteLine.x1, 0, objects.borderWidth, StripHeight}, objects.noteLineColor}};
     };
 }
 

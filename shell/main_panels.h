@@ -38,6 +38,7 @@ class MainPanels : private ActObserver {
     void actEnded(std::string_view act, const Changes& changes) override;
     void show(const Changes& changes);
     void showTexts(const Changes& changes);
+    void showTrackKind();
     void showTracks(const Changes& changes);
     void openPanel(const PanelOpening& opening);
     void showPlace();

@@ -34,16 +34,22 @@ void MainPanels::show(const Changes& changes) {
     const WindowLayout& layout = context_.commands.views.layout();
     if (changes.scrollBar) mirrorScrollBar();
     if (changes.strip) {
-        strip_->update();
+        strip_->showChanges();
         client_->update(0, StripTop, client_->width(), page_->y() - StripTop);
     }
     // The cursor's lines follow every move.
-    if (changes.page || changes.cursor) page_->update();
-    if (changes.cursor && layout.fretboardShown) fretboard_->update();
-    if (changes.cursor && layout.stripShown) strip_->update();
+    if (changes.page || changes.cursor) page_->showChanges();
+    if (changes.cursor && layout.fretboardShown) fretboard_->showChanges();
+    if (changes.cursor && layout.stripShown) strip_->showChanges();
     // During playback all of them stay off.
-    if (changes.techniques && !bench_.player.playing)
-        toolbar_->UpdateTechniqueButtons(bench_.document.isGuitarTrack(bench_.document.CurrentTrack));
+    if (changes.techniques && !bench_.player.playing) showTrackKind();
+}
+
+// The techniques are those of a guitar; drums have a list of their own.
+void MainPanels::showTrackKind() {
+    const bool guitar = bench_.document.isGuitarTrack(bench_.document.CurrentTrack);
+    toolbar_->UpdateTechniqueButtons(guitar);
+    menu_.setEnabled("mnuPercussionEditor", !guitar);
 }
 
 void MainPanels::showTexts(const Changes& changes) {
@@ -121,7 +127,7 @@ void MainPanels::ToggleMenus(bool enabled) {
     toolbar_->setAllButStopEnabled(enabled);
     if (!enabled) return;
     page_->setFocus();
-    toolbar_->UpdateTechniqueButtons(bench_.document.isGuitarTrack(bench_.document.CurrentTrack));
+    showTrackKind();
 }
 
 } // namespace tabrova

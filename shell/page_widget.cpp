@@ -3,33 +3,34 @@
 #include "shell/key_mapping.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 
 #include <utility>
 
 namespace tabrova {
 
-PageWidget::PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent)
-    : SurfaceWidget("picDocument", surface, parent), objects_(objects) {
+PageWidget::PageWidget(Surface& surface, const PageObjects& ofPage, QWidget* parent)
+    : SurfaceWidget("picDocument", surface, parent), cursor_(ofPage) {
     setFocusPolicy(Qt::StrongFocus);
-    paintObjects = [this](QPainter& painter) { paintCursor(painter); };
+    objects = [this] { return cursorRects(); };
 }
 
-void PageWidget::paintCursor(QPainter& painter) const {
-    const QColor color(objects_.color);
-    const int width = objects_.borderWidth;
-    if (objects_.vLine1Visible)
-        painter.fillRect(objects_.vLine1.x1, objects_.vLine1.y1, width,
-                         objects_.vLine1.y2 - objects_.vLine1.y1, color);
+std::vector<FloatingRect> PageWidget::cursorRects() const {
+    const QRgb color = cursor_.color;
+    const int width = cursor_.borderWidth;
+    std::vector<FloatingRect> rects;
+    if (cursor_.vLine1Visible)
+        rects.push_back(
+            {{cursor_.vLine1.x1, cursor_.vLine1.y1, width, cursor_.vLine1.y2 - cursor_.vLine1.y1}, color});
     // A wider border grows outwards, so that the glyph in the cell stays whole.
-    const Rect& cell = objects_.nCursor;
+    const Rect& cell = cursor_.nCursor;
     const int grown = width - 1;
     const Rect border = {cell.left - grown, cell.top - grown, cell.width + 2 * grown,
                          cell.height + 2 * grown};
-    painter.fillRect(border.left, border.top, border.width, width, color);
-    painter.fillRect(border.left, border.bottom() - width, border.width, width, color);
-    painter.fillRect(border.left, border.top, width, border.height, color);
-    painter.fillRect(border.right() - width, border.top, width, border.height, color);
+    rects.push_back({{border.left, border.top, border.width, width}, color});
+    rects.push_back({{border.left, border.bottom() - width, border.width, width}, color});
+    rects.push_back({{border.left, border.top, width, border.height}, color});
+    rects.push_back({{border.right() - width, border.top, width, border.height}, color});
+    return rects;
 }
 
 void PageWidget::keyPressEvent(QKeyEvent* event) {

@@ -10,7 +10,7 @@ namespace tabrova {
 
 class PageWidget : public SurfaceWidget {
   public:
-    PageWidget(const Surface& surface, const PageObjects& objects, QWidget* parent);
+    PageWidget(Surface& surface, const PageObjects& ofPage, QWidget* parent);
 
     std::function<void(int keyCode, int shift)> keyDown;
     std::function<void(MouseButton button, int x, int y)> mouseDown;
@@ -29,9 +29,9 @@ class PageWidget : public SurfaceWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    void paintCursor(QPainter& painter) const;
+    std::vector<FloatingRect> cursorRects() const;
 
-    const PageObjects& objects_;
+    const PageObjects& cursor_;
     int wheelRest_ = 0;
     bool wheelZooms_ = false;
     int heldKey_ = 0; // the toolkit's number of the key that was pressed last

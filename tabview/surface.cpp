@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace tabrova {
@@ -98,11 +99,33 @@ void stretchRow(QRgb* to, const QRgb* from, const Rect& source, const std::vecto
 
 Surface::Surface(int width, int height, QRgb background)
     : width_(std::max(width, 1)), height_(std::max(height, 1)), background_(background),
-      image_(blankImage()) {}
+      image_(blankImage()), changed_{0, 0, width_, height_} {}
 
 Surface::Surface(const QImage& image, int scale)
     : width_(image.width() / scale), height_(image.height() / scale), scale_(scale),
-      background_(qRgb(255, 255, 255)), image_(image.convertToFormat(QImage::Format_RGB32)) {}
+      background_(qRgb(255, 255, 255)),
+      image_(image.convertToFormat(QImage::Format_RGB32)), changed_{0, 0, width_, height_} {}
+
+QImage& Surface::drawOn(const Rect& place) {
+    const int left = std::max(place.left, 0);
+    const int top = std::max(place.top, 0);
+    const int right = std::min(place.right(), width_);
+    const int bottom = std::min(place.bottom(), height_);
+    if (left >= right || top >= bottom) return image_;
+    if (changed_.width == 0) {
+        changed_ = {left, top, right - left, bottom - top};
+    } else {
+        const int farRight = std::max(right, changed_.right());
+        const int farBottom = std::max(bottom, changed_.bottom());
+        changed_.left = std::min(left, changed_.left);
+        changed_.top = std::min(top, changed_.top);
+        changed_.width = farRight - changed_.left;
+        changed_.height = farBottom - changed_.top;
+    }
+    return image_;
+}
+
+Rect Surface::takeChanged() { return std::exchange(changed_, {}); }
 
 QImage Surface::blankImage() const {
     QImage image(width_ * scale_, height_ * scale_, QImage::Format_RGB32);
@@ -118,6 +141,7 @@ void Surface::resize(int width, int height) {
     width_ = width;
     height_ = height;
     image_ = blankImage();
+    changed_ = {0, 0, width_, height_};
     BitBlt(*this, 0, 0, old.width(), old.height(), old, 0, 0, Raster::SrcCopy);
 }
 
@@ -125,14 +149,15 @@ void Surface::setScale(int scale) {
     if (scale == scale_) return;
     scale_ = scale;
     image_ = image_.scaled(width_ * scale_, height_ * scale_);
+    changed_ = {0, 0, width_, height_};
 }
 
-void Surface::Cls() { image_.fill(background_); }
+void Surface::Cls() { image().fill(background_); }
 
 void BitBlt(Surface& to, int x, int y, int width, int height, const Surface& from, int sourceX, int sourceY,
             Raster raster) {
     const int scale = to.scale();
-    QImage& image = to.image();
+    QImage& image = to.drawOn({x, y, width, height});
     const Rect place = scaled({x, y, width, height}, scale);
     const Rect source = scaled({sourceX, sourceY, width, height}, scale);
     const Span xs = clip(place.left, image.width(), source.left, from.image().width(), place.width);
@@ -150,8 +175,9 @@ void fillRect(Surface& to, const Rect& place, QRgb color) {
     const int bottom = std::min(place.bottom(), to.height());
     if (left >= right || top >= bottom) return;
     const int scale = to.scale();
-    const qsizetype stride = to.image().bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
-    QRgb* pixels = row(to.image(), top * scale) + left * scale;
+    QImage& image = to.drawOn(place);
+    const qsizetype stride = image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
+    QRgb* pixels = row(image, top * scale) + left * scale;
     for (int line = top * scale; line < bottom * scale; ++line, pixels += stride)
         std::fill_n(pixels, (right - left) * scale, color);
 }
@@ -163,7 +189,7 @@ void StretchBlt(Surface& to, const Rect& place, const Surface& from, const Rect&
                       raster);
     const Rect target = scaled(place, to.scale());
     const Rect piece = scaled(source, to.scale());
-    QImage& image = to.image();
+    QImage& image = to.drawOn(place);
     const Span xs = {std::max(0, -target.left), std::min(target.width, image.width() - target.left)};
     const Span ys = {std::max(0, -target.top), std::min(target.height, image.height() - target.top)};
     if (xs.first >= xs.end) return;

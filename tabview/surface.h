@@ -54,7 +54,14 @@ class Surface {
     int height() const { return height_; }
     int scale() const { return scale_; }
     const QImage& image() const { return image_; }
-    QImage& image() { return image_; }
+    // Counts as a change of the whole surface.
+    QImage& image() { return drawOn({0, 0, width_, height_}); }
+    // The image, to draw on within `place`; what lies off the surface is left out.
+    QImage& drawOn(const Rect& place);
+
+    // The smallest rectangle around all that was drawn since the last call, without width if nothing was. A
+    // new surface and one of a new size or scale have changed as a whole.
+    Rect takeChanged();
 
     // The kept image stays where it was; what is new shows the background. Sizes below 1 count as 1.
     void resize(int width, int height);
@@ -73,6 +80,7 @@ class Surface {
     int scale_ = 1;
     QRgb background_;
     QImage image_;
+    Rect changed_;
 };
 
 // What falls outside either surface is left out.

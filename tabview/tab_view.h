@@ -1,17 +1,33 @@
 // The editor's surfaces and what draws on them. A redraw starts from empty surfaces; nothing about the page
-// is remembered between two redraws but its image.
+// is remembered between two redraws but its image and, to tell where it came out different, its tiles.
 #pragma once
 
 #include "tabview/fretboard_painter.h"
 #include "tabview/notation_layout.h"
 #include "tabview/page_geometry.h"
 #include "tabview/page_layout.h"
+#include "tabview/page_tiles.h"
 #include "tabview/surface.h"
+
+#include <optional>
 
 namespace tabrova {
 
 // There is a sheet for each scale from 1 to this one.
 constexpr int FinestScale = 4;
+
+// What a surface is made of now, and at the start of its redraw.
+class Redrawing {
+  public:
+    void start(Surface& surface);
+    void add(const SpriteCopy& copy) { now_.add(copy); }
+    void end(Surface& surface);
+
+  private:
+    PageTiles now_;
+    PageTiles before_;
+    std::optional<Rect> changedBefore_; // while it is drawn: the changes that the surface told of before
+};
 
 class TabView {
   public:
@@ -24,6 +40,11 @@ class TabView {
 
     // Image pixels a logical pixel, 1 to FinestScale, for all surfaces and the sheet. Clears the surfaces.
     void setScale(int scale);
+
+    // A redraw of page and strip starts with the first and ends with the second: between them the page's
+    // changes are not told; then, of all that was drawn, only where the page looks different now.
+    void startRedraw();
+    void endRedraw();
 
     // The visible staves over a cleared page. Returns PageRow, the number of staves drawn.
     int drawStaves(const Document& document);
@@ -40,10 +61,12 @@ class TabView {
     const std::vector<RulerTick>& ruler() const { return ruler_; }
 
   private:
-    void paint(Surface& surface, const std::vector<SpriteCopy>& copies);
+    void paint(Surface& surface, Redrawing& redrawing, const std::vector<SpriteCopy>& copies);
 
     Surface sheet_;
     std::vector<SpriteCopy> copies_;
+    Redrawing page_;
+    Redrawing strip_;
     std::vector<RulerTick> ruler_;
     NotationLayout notation_;
     std::int16_t NoteTop = 0;

@@ -3,6 +3,7 @@
 
 #include "tests/tabview/plain_blitter.h"
 
+#include <limits>
 #include <random>
 
 namespace tabrova::testing {
@@ -298,6 +299,64 @@ TEST(StretchBlt, ThatShrinksKeepsEveryStroke) {
             EXPECT_TRUE(column && line) << width << " by " << height;
         }
     }
+}
+
+TEST(SurfaceChanges, ANewSurfaceHasChangedAsAWholeOnce) {
+    Surface page = pageOf(20, 16, 1);
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 20, 16}));
+    EXPECT_EQ(page.takeChanged(), Rect());
+    Surface sheet = numbered(8, 6, 2);
+    EXPECT_EQ(sheet.takeChanged(), (Rect{0, 0, 8, 6}));
+}
+
+TEST(SurfaceChanges, EachWayToDrawTellsItsPlace) {
+    const Surface sheet = numbered(20, 16, 2);
+    Surface page = pageOf(20, 16, 2);
+    page.takeChanged();
+    BitBlt(page, 3, 4, 5, 6, sheet, 0, 0, Raster::SrcAnd);
+    EXPECT_EQ(page.takeChanged(), (Rect{3, 4, 5, 6}));
+    StretchBlt(page, {1, 2, 8, 3}, sheet, {0, 0, 4, 3}, Raster::SrcCopy);
+    EXPECT_EQ(page.takeChanged(), (Rect{1, 2, 8, 3}));
+    StretchBlt(page, {1, 2, 4, 3}, sheet, {0, 0, 4, 3}, Raster::SrcCopy);
+    EXPECT_EQ(page.takeChanged(), (Rect{1, 2, 4, 3}));
+    fillRect(page, {19, 15, 9, 9}, Paper);
+    EXPECT_EQ(page.takeChanged(), (Rect{19, 15, 1, 1}));
+    page.Cls();
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 20, 16}));
+    page.resize(30, 16);
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 30, 16}));
+    page.setScale(3);
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 30, 16}));
+    page.image().fill(Paper);
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 30, 16}));
+}
+
+TEST(SurfaceChanges, WhatDrawsNothingTellsNothing) {
+    const Surface sheet = numbered(20, 16);
+    Surface page = pageOf(20, 16, 1);
+    page.takeChanged();
+    for (const Rect& off : {Rect{20, 0, 5, 5}, Rect{0, 16, 5, 5}, Rect{-5, 0, 5, 5}, Rect{0, -5, 5, 5}}) {
+        fillRect(page, off, Paper);
+        page.drawOn(off);
+    }
+    StretchBlt(page, {0, 0, 0, 5}, sheet, {0, 0, 4, 4}, Raster::SrcCopy);
+    page.resize(20, 16);
+    page.setScale(1);
+    EXPECT_EQ(page.takeChanged(), Rect());
+}
+
+TEST(SurfaceChanges, SeveralPlacesAreOneRectangleAroundThem) {
+    Surface page = pageOf(20, 16, 1);
+    page.takeChanged();
+    page.drawOn({5, 6, 2, 3});
+    page.drawOn({2, 8, 1, 1});
+    EXPECT_EQ(page.takeChanged(), (Rect{2, 6, 5, 3}));
+    page.drawOn({5, 6, 2, 3});
+    page.drawOn({-4, -4, 5, 5});
+    EXPECT_EQ(page.takeChanged(), (Rect{0, 0, 7, 9}));
+    page.drawOn({10, 10, 1, 1});
+    page.drawOn({12, 13, std::numeric_limits<int>::max(), 9});
+    EXPECT_EQ(page.takeChanged(), (Rect{10, 10, 10, 6}));
 }
 
 } // namespace
