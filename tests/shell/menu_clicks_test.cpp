@@ -71,7 +71,7 @@ class MenuClicks : public testing::MainWindowTest {
 
 TEST_F(MenuClicks, RunEveryItemThatHasACommandOnce) {
     walk(window.menuBar()->actions(), {});
-    EXPECT_EQ(items, 85);
+    EXPECT_EQ(items, 86);
     EXPECT_EQ(ends, 0);
 }
 
