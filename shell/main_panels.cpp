@@ -242,11 +242,12 @@ void MainPanels::paintRuler() {
     QPainter painter(client_);
     paintRulerGround(painter);
     const QColor dark = window_.palette().color(QPalette::Dark);
+    const int width = qRound(static_cast<double>(views.zoom()) / UnzoomedPercent); // of every tick the same
     const QColor offBeat = dark.lightness() < DarkestDark ? QColor(0x80, 0x80, 0x80) : dark;
     const auto draw = [&](int top) {
         const auto line = [&](int x, const QColor& color) {
             const QRect place = qRect(views.inWindow({x, top, 1, TickHeight}));
-            painter.fillRect(place.x(), place.y(), std::max(place.width(), 1), place.height(), color);
+            painter.fillRect(place.x(), place.y(), width, place.height(), color);
         };
         for (const RulerTick& tick : bench_.view.ruler()) {
             line(tick.x, tick.onBeat ? QColor(Qt::black) : offBeat);

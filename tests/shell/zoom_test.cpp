@@ -11,6 +11,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <map>
 
 namespace tabrova {
 namespace {
@@ -243,6 +244,22 @@ TEST_F(ZoomCommands, TheRulersTicksStandOverTheColumns) {
             const QPoint place(static_cast<int>(std::lround(tick.x * percent / 100.0)),
                                24 + static_cast<int>(std::lround(172 * percent / 100.0)));
             EXPECT_EQ(seen.pixelColor(place), QColor(Qt::black)) << percent << " " << tick.x;
+        }
+    }
+}
+
+TEST_F(ZoomCommands, TheRulersTicksAreOfOneWidth) {
+    const std::map<int, int> widths = {{100, 1}, {125, 1}, {150, 2}, {200, 2}};
+    for (const int percent : ZoomSteps) {
+        choose(percent);
+        const QImage seen = window->clientArea()->grab().toImage();
+        const int y = 24 + static_cast<int>(std::lround(172 * percent / 100.0));
+        for (const RulerTick& tick : window->view().ruler()) {
+            const int x = static_cast<int>(std::lround(tick.x * percent / 100.0));
+            int width = 0;
+            while (seen.pixelColor(x + width, y) == seen.pixelColor(x, y))
+                ++width;
+            EXPECT_EQ(width, widths.at(percent)) << percent << " " << tick.x;
         }
     }
 }
