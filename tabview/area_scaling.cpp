@@ -58,7 +58,7 @@ QRgb mean(const QRgb* pixels, const std::uint16_t* weights, int count) {
 AreaScaling::Axis AreaScaling::axis(int length, double factor) {
     const double covered = 1.0 / factor;
     const int count = std::min(static_cast<int>(std::ceil(covered)) + 1, length);
-    const int pixels = std::max(static_cast<int>(std::ceil(length * factor - 1e-9)), 1);
+    const int pixels = static_cast<int>(std::ceil(length * factor - 1e-9));
     Axis axis{count, {}, {}};
     for (int pixel = 0; pixel < pixels; ++pixel) {
         const double from = pixel * covered;

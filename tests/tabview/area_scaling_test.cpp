@@ -64,8 +64,8 @@ TEST_P(AreaScalingBy, EveryPixelIsTheMeanOfWhatItCovers) {
 TEST_P(AreaScalingBy, ThePictureHasItsSize) {
     for (const int length : {1, 7, 8, 40, 1001}) {
         const QSize size = AreaScaling({length, 2 * length}, GetParam()).size();
-        EXPECT_EQ(size.width(), std::max(1, static_cast<int>(std::ceil(length * GetParam() - 1e-6))));
-        EXPECT_EQ(size.height(), std::max(1, static_cast<int>(std::ceil(2 * length * GetParam() - 1e-6))));
+        EXPECT_EQ(size.width(), static_cast<int>(std::ceil(length * GetParam() - 1e-6)));
+        EXPECT_EQ(size.height(), static_cast<int>(std::ceil(2 * length * GetParam() - 1e-6)));
     }
 }
 

@@ -63,8 +63,16 @@ TEST(PageTiles, TheOrderCountsWhereCopiesLieOnEachOtherAndElsewhereNot) {
 TEST(PageTiles, ACopyOfThePageCarriesItsDifferenceAlong) {
     const SpriteCopy carried = {{64, 32, 16, 16}, {48, 16, 16, 16}, Raster::SrcCopy, CopyFrom::Page};
     EXPECT_EQ(page({Cell, carried}).difference(page({carried})), (Rect{32, 16, 48, 32}));
-    const SpriteCopy elsewhere = {{64, 32, 16, 16}, {0, 0, 16, 16}, Raster::SrcCopy, CopyFrom::Page};
-    EXPECT_EQ(page({Cell, elsewhere}).difference(page({elsewhere})), (Rect{32, 16, 32, 16}));
+    // Tiles beside the one that differs.
+    for (const Rect& source :
+         {Rect{16, 16, 16, 16}, Rect{64, 16, 16, 16}, Rect{32, 0, 32, 16}, Rect{32, 32, 32, 16}}) {
+        const SpriteCopy elsewhere = {{64, 32, 16, 16}, source, Raster::SrcCopy, CopyFrom::Page};
+        EXPECT_EQ(page({Cell, elsewhere}).difference(page({elsewhere})), (Rect{32, 16, 32, 16}));
+    }
+    for (const Rect& source : {Rect{47, 16, 1, 1}, Rect{48, 31, 1, 1}, Rect{31, 15, 2, 2}}) {
+        const SpriteCopy touching = {{64, 32, 16, 16}, source, Raster::SrcCopy, CopyFrom::Page};
+        EXPECT_EQ(page({Cell, touching}).difference(page({touching})), (Rect{32, 16, 48, 32}));
+    }
 }
 
 TEST(PageTiles, TheLastTilesEndWithThePage) {

@@ -55,6 +55,13 @@ TEST(Surface, StartsInItsBackground) {
             EXPECT_EQ(surface.image().pixel(x, y), Paper);
 }
 
+TEST(Surface, OneMadeOfAPictureIsWhiteWhereItGrows) {
+    Surface surface = numbered(2, 2);
+    EXPECT_EQ(surface.background(), White);
+    surface.resize(3, 2);
+    EXPECT_EQ(surface.image().pixel(2, 1), White);
+}
+
 TEST(Surface, KeepsItsImageWhenItGrows) {
     Surface surface(4, 4, Paper);
     surface.image().setPixel(1, 2, qRgb(1, 2, 3));
