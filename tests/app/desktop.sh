@@ -5,20 +5,25 @@
 
 work="$(mktemp -d)"
 processes=()
+midi_server=""
 declare -A logs
 passed=0
 failed=0
 
+end_surely() {
+    kill "$1" 2>/dev/null || return 0
+    for _ in $(seq 100); do kill -0 "$1" 2>/dev/null || return 0; sleep 0.1; done
+    kill -KILL "$1" 2>/dev/null || true
+}
+
 cleanup() {
     trap '' HUP INT TERM # `timeout` tells twice
+    # A MIDI server ends before its clients: it waits long for one that goes without a word, and killed it would keep its
+    # place among the few that the system has for servers.
+    [ -z "$midi_server" ] || end_surely "$midi_server"
     # The last started ends first: a program before the server that shows it.
-    local number process
-    for ((number = ${#processes[@]} - 1; number >= 0; --number)); do
-        process="${processes[number]}"
-        kill "$process" 2>/dev/null || continue
-        for _ in $(seq 100); do kill -0 "$process" 2>/dev/null || break; sleep 0.1; done
-        kill -KILL "$process" 2>/dev/null || true
-    done
+    local number
+    for ((number = ${#processes[@]} - 1; number >= 0; --number)); do end_surely "${processes[number]}"; done
     wait 2>/dev/null || true
     # The second is what a MIDI server leaves that had to be killed.
     rm -rf "$work" /dev/shm/jack*tabrova-$$_*
@@ -126,6 +131,26 @@ leave_devices_alone() {
     export ALSA_CONFIG_PATH="$work/no-devices" PULSE_SERVER="unix:$work/nowhere"
     export JACK_DEFAULT_SERVER="tabrova-$$" JACK_NO_START_SERVER=1 JACK_NO_AUDIO_RESERVATION=1
 }
+
+# A MIDI server ($midi_server) and a listener ($listener) that writes what it hears to $work/listener.log. On a busy
+# machine no message is lost: the server waits for its clients.
+start_midi_server() {
+    need_tools jackd jack_midi_dump jack_lsp
+    launch jack jackd -r -S -t 10000 -d dummy -r 48000 -p 1024
+    midi_server=$launched
+    wait_until 20 jack_lsp || give_up "jackd does not answer: $(tail -n 1 "$work/jack.log")"
+    launch listener stdbuf -oL jack_midi_dump ear
+    listener=$launched
+    wait_until 20 listens || give_up "jack_midi_dump does not answer: $(tail -n 1 "$work/listener.log")"
+}
+# At an interrupt it takes its leave of the server.
+end_listener() {
+    kill -INT "$listener"
+    wait_until 10 ended "$listener" || give_up "jack_midi_dump does not end"
+}
+listens() { jack_lsp | grep -qx 'ear:input'; }
+# Is the program?
+connected() { jack_lsp -c | sed -n '/^ear:input$/,/^[^ ]/p' | grep -q '^ .*Tabrova'; }
 
 # sees NAME: a visible window whose title is NAME (a pattern); its number in $window. Asked anew each time, since
 # waiting inside one question may miss a window while another one vanishes.
