@@ -41,8 +41,8 @@ class TabView {
     // Image pixels a logical pixel, 1 to FinestScale, for all surfaces and the sheet. Clears the surfaces.
     void setScale(int scale);
 
-    // A redraw of page and strip starts with the first and ends with the second: between them the page's
-    // changes are not told; then, of all that was drawn, only where the page looks different now.
+    // A redraw of page and strip starts with the first and ends with the second: their surfaces then tell, of
+    // all that was drawn between, only where they look different now. The strip takes no copies of the page.
     void startRedraw();
     void endRedraw();
 

@@ -18,8 +18,8 @@ end_surely() {
 
 cleanup() {
     trap '' HUP INT TERM # `timeout` tells twice
-    # A MIDI server ends before its clients: it waits long for one that goes without a word, and killed it would keep its
-    # place among the few that the system has for servers.
+    # A MIDI server ends before its clients: it waits long for one that goes without a word, and killed it would keep
+    # its place among the few that the system has for servers.
     [ -z "$midi_server" ] || end_surely "$midi_server"
     # The last started ends first: a program before the server that shows it.
     local number
